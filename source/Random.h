@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+/// State of the game's one random generator. Set to 1 at start, so that every run draws the same.
+inline std::uint32_t randomState = 1;
+
+/// One draw, 0 to 32767: a linear congruential step (ANSI C's example generator), bits 16 to 30.
+inline int drawRandom() {
+    randomState = randomState * 1103515245U + 12345U;
+    return static_cast<int>((randomState >> 16U) & 0x7FFFU);
+}
