@@ -1,0 +1,40 @@
+#include "CollisionRules.h"
+
+#include "sceneManager/SceneObject.h"
+
+namespace {
+
+namespace group {
+constexpr int normal = 0x1;
+constexpr int fixed = 0x2;
+constexpr int ghost = 0x8;
+constexpr int nobody = 0x10; // no body has this group, so a mask of it alone matches none
+constexpr int loose = 0x20;
+constexpr int barrier = 0x40;
+constexpr int all = 0xFFFF;
+} // namespace group
+
+} // namespace
+
+std::optional<CollisionFilter> collisionFilter(int kind, bool isStatic) {
+    const int notFixed = isStatic ? group::all & ~group::fixed : group::all;
+    switch (kind) {
+    case collisionKind::none:
+        return CollisionFilter{group::ghost, group::nobody};
+    case collisionKind::normal:
+        return CollisionFilter{isStatic ? group::fixed : group::normal, notFixed & ~group::ghost};
+    case collisionKind::loose:
+        return CollisionFilter{group::loose, notFixed & ~(group::nobody | group::loose)};
+    case collisionKind::barrier:
+        return CollisionFilter{group::barrier, notFixed & ~group::nobody};
+    case collisionKind::solid:
+        return CollisionFilter{group::normal, group::all & ~group::ghost};
+    default:
+        return std::nullopt;
+    }
+}
+
+PhysicsObject* physicsObjectOf(const btCollisionObject& body) {
+    const SceneObject* object = sceneObjectOf(body);
+    return object != nullptr ? object->physicsObject : nullptr;
+}

@@ -1,0 +1,109 @@
+#include "PhysicsModule.h"
+
+#include "CollisionRules.h"
+#include "ImpactSounds.h"
+#include "PhysicsObject.h"
+#include "ProcessValues.h"
+#include "btFixedWorld.h"
+#include "myCollisionDispatcher.h"
+
+// Fixed calls upward: a step is the clock of the whole game.
+#include "graphicsModule/GraphicsModule.h"
+#include "sceneManager/SceneManager.h"
+#include "sceneManager/SceneObject.h"
+#include "soundModule/SoundManager.h"
+
+#include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
+#include <BulletDynamics/Dynamics/btRigidBody.h>
+
+#include <algorithm>
+
+namespace {
+
+void collectContact(const btCollisionObject& body, btPersistentManifold* manifold) {
+    PhysicsObject* object = physicsObjectOf(body);
+    if (object != nullptr && object->wantsContacts) {
+        object->contacts.push_back(manifold);
+    }
+}
+
+/// Asks for what the scan reads of a manifold a few turns later: a thousand bodies have more
+/// manifolds than the processor's cache holds, and waiting for them was a quarter of the scan.
+void prefetch(const btPersistentManifold& manifold) {
+    for (const int i : {0, 1}) {
+        const btManifoldPoint& point = manifold.getContactPoint(i);
+        __builtin_prefetch(&point.m_localPointA);
+        __builtin_prefetch(&point.m_distance1);
+    }
+    __builtin_prefetch(&manifold.m_companionIdA); // beside the bodies and the count
+}
+
+} // namespace
+
+PhysicsModule& physicsModule() {
+    return service<PhysicsModule>();
+}
+
+void PhysicsModule::update() {
+    storePreviousTransforms();
+    stepWorld();
+    collectContacts();
+    ageObjects();
+    updateScene();
+    soundManager().update();
+    graphicsModule().updateStep();
+    runScripts();
+    sceneManager().ageDebris();
+    sceneManager().flushRemovals();
+    ++stepCount;
+}
+
+void PhysicsModule::storePreviousTransforms() {
+    for (PhysicsObject* object : physicsObjects) {
+        object->previousTransform = object->body->getWorldTransform();
+    }
+}
+
+void PhysicsModule::stepWorld() {
+    if (physicsRunning != 0) {
+        world->stepSimulation(physicsStep, 0, 1.0F / 60.0F);
+    }
+}
+
+void PhysicsModule::collectContacts() {
+    for (PhysicsObject* object : physicsObjects) {
+        object->contacts.clear();
+    }
+    ImpactSounds sounds;
+    constexpr int prefetchDistance = 6;
+    btPersistentManifold** manifolds = dispatcher->getInternalManifoldPointer();
+    const int count = dispatcher->getNumManifolds();
+    for (int i = 0; i < count; ++i) {
+        prefetch(*manifolds[std::min(i + prefetchDistance, count - 1)]);
+        collectContact(*manifolds[i]->getBody0(), manifolds[i]);
+        collectContact(*manifolds[i]->getBody1(), manifolds[i]);
+        sounds.hear(*manifolds[i]);
+    }
+    sounds.finish();
+}
+
+void PhysicsModule::ageObjects() {
+    for (const PhysicsObject* object : physicsObjects) {
+        if (SceneObject* owner = sceneObjectOf(*object->body)) {
+            ++owner->age;
+        }
+    }
+}
+
+void PhysicsModule::updateScene() {
+    if (physicsRunning == 0) {
+        return;
+    }
+    soundManager().heartCount = 0; // whoever wants the heartbeat asks for it again in each step
+    // By index: objects that are added meanwhile run in the same pass.
+    const std::vector<SceneObject*>& objects = sceneManager().objects;
+    // NOLINTNEXTLINE(modernize-loop-convert)
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        objects[i]->update();
+    }
+}
