@@ -1,0 +1,65 @@
+#pragma once
+
+#include "GraphicsObject.h"
+#include "ParticleParams.h"
+#include "sceneManager/So_Addons/So_Addition.h"
+
+#include <vector>
+
+/// A textured, spinning square that flies, fades and dies.
+struct Particle {
+    btTransform transform; ///< Basis is the turn, origin the place in the world.
+    btVector3 velocity;    ///< World units a second.
+    float angularSpeed;    ///< Radians a second about z.
+    float life;            ///< Ticks left.
+    std::array<float, 4> colour;
+    float size; ///< Half the side, world units.
+};
+
+/// A pool of particles. On a scene object it sprays from the object's body at a steady rate, and
+/// the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of
+/// `GraphicsModule` from construction to destruction without being owned there.
+class ParticleEmiter : public So_Addition, public GraphicsObject {
+public:
+    explicit ParticleEmiter(const ParticleParams& look);
+    ~ParticleEmiter() override;
+
+    /// Reads what follows the type. The result belongs to the caller.
+    static So_Addition* read(TextReader& stream);
+
+    void setParams(const ParticleParams& look);
+    void save(TextWriter& stream) const override;
+
+    /// One tick of motion, then emission from the owner's body, which it must have.
+    void update(SceneObject* owner) override;
+    /// One tick of motion.
+    void updateParticles();
+
+    /// `count` particles round world up, each with a speed between 0 and the full one.
+    void burst(const btVector3& position, unsigned count);
+    /// One particle. `spreadFactor`, 0 to 1, is the share of the velocity that is left to chance.
+    void burstWithVelocity(const btVector3& position, const btVector3& velocity,
+                           float spreadFactor);
+    void addParticle(const btVector3& position, const btVector3& velocity, float angularSpeed);
+
+    const std::vector<Particle>& getParticles() const { return particles; }
+
+    void draw() override;
+    float getZ() const override { return params.z; }
+    void setZ(float z) override { params.z = z; }
+    void getTransform(btTransform& out) const override { out = btTransform::getIdentity(); }
+    btTransform& getTransformRef() override;
+    void write(TextWriter& stream) const override { save(stream); }
+
+    ParticleParams params; ///< Open to be edited; `setParams` where fade, colours or sizes change.
+    float accumulator = 0.0F; ///< Particles owed.
+    bool randomSpeed = false; ///< Emission at 0.5 to 1 times the speed.
+
+private:
+    void emitFrom(SceneObject& owner);
+    float drawSpin() const;
+
+    std::vector<Particle> particles; // oldest first
+    std::array<float, 4> colourStep{};
+    float sizeStep = 0.0F;
+};
