@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Service.h"
+
+#include <LinearMath/btVector3.h>
+
+#include <cstdint>
+#include <string>
+
+/// Who a tracked sound belongs to: any word that identifies the caller, compared and never
+/// followed.
+using SoundOwner = std::uintptr_t;
+
+/// The one place that talks to the mixer. Volumes are 0 to 128, positions world units; a position
+/// of exactly (0, 0, 0) is not positional.
+class SoundManager {
+    ServiceSlot<SoundManager> slot{this};
+
+public:
+    SoundManager() = default;
+    SoundManager(const SoundManager&) = delete;
+    SoundManager& operator=(const SoundManager&) = delete;
+
+    /// Volume by distance from the camera, 0 to 128.
+    std::uint8_t distanceVolume(const btVector3& position) const;
+    /// A sound that belongs to an owner; asking again while it runs changes its volume.
+    void play(const std::string& name, const btVector3& position, SoundOwner owner,
+              std::uint8_t volume, bool once);
+    /// A one-shot without owner and distance.
+    void playFlat(const std::string& name, std::uint8_t volume);
+    /// A one-shot by distance volume, silent at 0.
+    void playAt(const std::string& name, const btVector3& position);
+    void stop(const std::string& name, SoundOwner owner);
+    void stopAll(const std::string& name);
+    /// Stops every channel of the owner.
+    void stopOwner(SoundOwner owner);
+    /// Fades to another piece; an empty name fades out.
+    void playMusic(const std::string& name);
+    void addFear(float periodDelta, int levelDelta);
+    /// Once a step, after the scene objects.
+    void update();
+
+    int heartCount = 0;        ///< Requests of the heartbeat in this step.
+    float heartVolume = 0.0F;  ///< 0 to 128.
+    int fearLevel = 0;         ///< Volume of the next breath, 0 to 40.
+    float fearPeriod = 300.0F; ///< Range of the pause between breaths, steps, 60 to 300.
+    std::string currentMusic;  ///< What plays or is about to play.
+};
+
+SoundManager& soundManager();
