@@ -1,0 +1,13 @@
+#include "CommandTables.h"
+
+#include <array>
+
+/// A cut that maps still name.
+static void doNothing(SceneObject*, So_Addition*) {}
+
+std::span<const NamedCommand> chapter01Commands() {
+    static constexpr std::array table{
+        NamedCommand{"CHAPTER1CUT", doNothing},
+    };
+    return table;
+}
