@@ -1,0 +1,204 @@
+#include "LevelBuilder.h"
+
+#include "JointBuilder.h"
+#include "ObjectClass.h"
+#include "ShapeBuilder.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace mapc {
+
+namespace {
+
+constexpr float markerHalf = 5.0F;
+
+/// The chains of a script property, one a line.
+std::vector<std::string> scriptLines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        std::string line = text.substr(start, end - start);
+        line.erase(line.find_last_not_of(" \t\r") + 1);
+        line.erase(0, line.find_first_not_of(" \t"));
+        if (!line.empty()) {
+            lines.push_back(line);
+        }
+        start = end + 1;
+    }
+    return lines;
+}
+
+/// What makes several objects one: a property, or a layer of class Compound around them.
+std::string groupOf(const TiledObject& object) {
+    if (object.properties.has("group")) {
+        return "property " + object.properties.text("group", "");
+    }
+    return object.compoundLayer == 0 ? "" : "layer " + std::to_string(object.compoundLayer);
+}
+
+bool isJoint(Role role) {
+    return role == Role::hinge || role == Role::slider;
+}
+
+class Builder {
+public:
+    Builder(const TiledMap& source, std::vector<Problem>& list)
+        : map(source),
+          problems(list),
+          placement(source.origin) {}
+
+    Level build() {
+        readEnvironment();
+        forEach([this](const TiledObject& object, const ObjectClass& objectClass) {
+            if (!isJoint(objectClass.role)) {
+                addObject(object, objectClass);
+            }
+        });
+        std::ranges::for_each(level.objects, centreCompound);
+        JointBuilder joints(level, partOwners, placement);
+        forEach([&joints](const TiledObject& object, const ObjectClass& objectClass) {
+            if (objectClass.role == Role::hinge) {
+                joints.addHinge(object);
+            } else if (objectClass.role == Role::slider) {
+                joints.addSlider(object);
+            }
+        });
+        return std::move(level);
+    }
+
+private:
+    template <class Action>
+    void forEach(Action action) {
+        for (const TiledObject& object : map.objects) {
+            const ObjectClass* objectClass = findObjectClass(object.objectClass);
+            if (objectClass == nullptr) {
+                continue; // told once, by the first pass
+            }
+            try {
+                action(object, *objectClass);
+            } catch (const std::string& reason) {
+                problems.push_back({object.id, object.name, reason});
+            }
+        }
+    }
+
+    void readEnvironment() {
+        try {
+            level.ambient = map.properties.colour("ambient", {});
+            level.music = map.properties.text("music", "");
+        } catch (const std::string& reason) {
+            problems.push_back({0, "", reason});
+        }
+        for (const TiledObject& object : map.objects) {
+            if (findObjectClass(object.objectClass) == nullptr) {
+                problems.push_back({object.id, object.name,
+                                    object.objectClass.empty()
+                                        ? std::string("has no class")
+                                        : "has the unknown class \"" + object.objectClass + "\""});
+            }
+        }
+    }
+
+    void addObject(const TiledObject& object, const ObjectClass& objectClass) {
+        const Part part = buildPart(object, objectClass);
+        const std::string group = groupOf(object);
+        const auto [entry, isNew] = groups.try_emplace(group, level.objects.size());
+        if (!group.empty() && !isNew) {
+            LevelObject& compound = level.objects[entry->second];
+            if (part.solid && !compound.body.has_value()) {
+                throw std::string(
+                    "the group begins with scenery: its first object says what it is");
+            }
+            compound.parts.push_back(part);
+            partOwners[object.id] = entry->second;
+            return;
+        }
+        partOwners[object.id] = level.objects.size();
+        level.objects.push_back(buildObject(object, objectClass, part));
+    }
+
+    Part buildPart(const TiledObject& object, const ObjectClass& objectClass) const {
+        Part part;
+        part.id = object.id;
+        part.look = readAppearance(object, objectClass);
+        part.solid = objectClass.role != Role::scenery && objectClass.role != Role::mesh;
+        if (objectClass.role == Role::marker) {
+            part.shape = {ShapeKind::box,
+                          {{-markerHalf, -markerHalf},
+                           {-markerHalf, markerHalf},
+                           {markerHalf, markerHalf},
+                           {markerHalf, -markerHalf}},
+                          0.0F,
+                          {markerHalf, markerHalf}};
+            part.pose = {placement.centreOf(object), 0.0F};
+            return part;
+        }
+        const PlacedShape placed = buildShape(object, placement, objectClass.role == Role::mesh);
+        part.shape = placed.shape;
+        part.pose = placed.pose;
+        return part;
+    }
+
+    static LevelObject buildObject(const TiledObject& source, const ObjectClass& objectClass,
+                                   const Part& part) {
+        const Properties& properties = source.properties;
+        LevelObject object;
+        object.id = source.id;
+        object.pose = part.pose;
+        object.parts.push_back(part);
+        object.scripts = scriptLines(properties.text("script", ""));
+        const bool drawnOnly = !part.solid;
+        if (drawnOnly && !object.scripts.empty()) {
+            throw std::string("has no body, which a script needs: make it a Trigger or a Wall");
+        }
+        if (!drawnOnly) {
+            object.name = source.name; // names of scenery are for the editor alone
+            object.body = readBody(properties, objectClass);
+        }
+        if (objectClass.role == Role::forcefield) {
+            object.force =
+                Point{properties.number("forceX", 0.0F), properties.number("forceY", 0.0F)};
+        }
+        if (const int health = properties.integer("health", 0); health != 0) {
+            object.health = health;
+        }
+        if (const int damage = properties.integer("damage", 0); damage != 0 && !drawnOnly) {
+            object.damage = Damage{damage, properties.number("damageThreshold", 0.0F)};
+        }
+        return object;
+    }
+
+    /// Puts the frame of a compound on its centre of mass, which is what Bullet takes it for.
+    static void centreCompound(LevelObject& object) {
+        if (object.parts.size() < 2) {
+            return;
+        }
+        Point sum;
+        float weight = 0.0F;
+        for (const Part& part : object.parts) {
+            if (part.solid || !object.body.has_value()) {
+                const float area = std::abs(signedArea(part.shape.outline));
+                sum = sum + part.pose.origin * area;
+                weight += area;
+            }
+        }
+        object.pose = {weight > 0.0F ? sum * (1.0F / weight) : object.pose.origin, 0.0F};
+    }
+
+    const TiledMap& map;
+    std::vector<Problem>& problems;
+    Placement placement;
+    Level level;
+    std::map<std::string, std::size_t> groups; // place in the level's objects
+    PartOwners partOwners;
+};
+
+} // namespace
+
+Level buildLevel(const TiledMap& map, std::vector<Problem>& problems) {
+    return Builder(map, problems).build();
+}
+
+} // namespace mapc

@@ -1,0 +1,97 @@
+#include "LevelWriter.h"
+
+#include "RecordWriters.h"
+
+#include "sceneManager/SceneObject.h"
+#include "sceneManager/So_Addons/CallbackAdd.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace mapc {
+
+namespace {
+
+constexpr const char* noBody = "00000000";
+
+int typeCode(const LevelObject& object) {
+    if (object.force.has_value()) {
+        return sceneObjectType::forcefield;
+    }
+    return object.body.has_value() ? sceneObjectType::plain : sceneObjectType::withoutPhysics;
+}
+
+/// Each as the text of its record.
+std::vector<std::string> additionsOf(const LevelObject& object) {
+    std::vector<std::string> records;
+    const auto record = [&records](AdditionType type, auto writeFields) {
+        TextWriter stream;
+        stream << static_cast<int>(type);
+        writeFields(stream);
+        records.push_back(stream.takeText());
+    };
+    if (!object.name.empty()) {
+        record(AdditionType::objectName,
+               [&](TextWriter& stream) { stream.writeCounted(object.name); });
+    }
+    std::ranges::transform(object.scripts, std::back_inserter(records), storeScript);
+    if (object.health.has_value()) {
+        record(AdditionType::health, [&](TextWriter& stream) { stream << *object.health; });
+    }
+    if (object.damage.has_value()) {
+        record(AdditionType::damage, [&](TextWriter& stream) {
+            stream << object.damage->amount << object.damage->threshold;
+        });
+    }
+    return records;
+}
+
+void writeObject(std::string& text, const LevelObject& object, TextureSizes& textures) {
+    TextWriter head;
+    head << typeCode(object);
+    writeGraphics(head, object, textures);
+    if (object.body.has_value()) {
+        writeBody(head, object);
+    } else {
+        head << noBody;
+    }
+    const std::vector<std::string> additions = additionsOf(object);
+    head << additions.size();
+    text += head.text();
+    for (const std::string& addition : additions) {
+        text += addition;
+    }
+    if (object.force.has_value()) {
+        TextWriter tail;
+        tail << object.force->x << object.force->y;
+        text += tail.text();
+    }
+}
+
+} // namespace
+
+std::string storeScript(const std::string& script) {
+    const std::unique_ptr<CallbackAdd> chain(parseScript(script));
+    TextWriter stream;
+    chain->save(stream);
+    return stream.takeText();
+}
+
+std::string writeLevel(const Level& level, TextureSizes& textures) {
+    TextWriter head;
+    head << level.objects.size();
+    std::string text = head.takeText();
+    for (const LevelObject& object : level.objects) {
+        writeObject(text, object, textures);
+    }
+    TextWriter end;
+    end << level.joints.size();
+    for (const Joint& joint : level.joints) {
+        writeJoint(end, joint);
+    }
+    end << level.ambient.r << level.ambient.g << level.ambient.b;
+    end.writeCounted(level.music);
+    return text + end.text();
+}
+
+} // namespace mapc
