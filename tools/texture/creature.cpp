@@ -1,0 +1,208 @@
+// The one that is played: a round soft body with one eye, two legs and an arm. All pictures look
+// left; the game mirrors them. Body and legs share one box of units about the character's centre,
+// so that the parts lie over each other as they are painted here.
+
+#include "Noise.h"
+#include "Recipes.h"
+#include "Shape.h"
+
+using shape::mix;
+using shape::ramp;
+
+namespace {
+
+constexpr Colour furDeep{0.090f, 0.080f, 0.175f};
+constexpr Colour fur{0.245f, 0.215f, 0.415f};
+constexpr Colour furLight{0.47f, 0.45f, 0.70f};
+constexpr Colour rimLight{0.74f, 0.78f, 0.96f};
+constexpr Colour iris{0.86f, 0.50f, 0.20f};
+
+// The game shows a part without the outermost fortieth of its picture.
+constexpr float margin = 0.025f;
+
+struct Units {
+    float half;
+    float perPixel;
+    int width, height;
+
+    Units(const Canvas& canvas, float halfSize)
+        : half(halfSize),
+          perPixel(2 * halfSize / ((1 - 2 * margin) * static_cast<float>(canvas.width()))),
+          width(canvas.width()),
+          height(canvas.height()) {}
+
+    float x(int column) const {
+        return (static_cast<float>(column) + 0.5f - static_cast<float>(width) / 2) * perPixel;
+    }
+    float y(int row) const {
+        return (static_cast<float>(row) + 0.5f - static_cast<float>(height) / 2) * perPixel;
+    }
+    float coverage(float distance) const { return shape::coverage(distance / perPixel); }
+};
+
+// Calls `paint(x, y)` for each pixel and lays the colour that it gives over the canvas.
+template <class Paint>
+void layer(Canvas& canvas, const Units& units, const Paint& paint) {
+    for (int row = 0; row < canvas.height(); ++row) {
+        for (int column = 0; column < canvas.width(); ++column) {
+            canvas.over(column, row, paint(units.x(column), units.y(row)));
+        }
+    }
+}
+
+// Fur lies in tufts that point away from the middle and droop.
+float furAt(const Noise& noise, float x, float y) {
+    float angle = std::atan2(y, x) / 6.2831853f + 0.5f;
+    float out = std::hypot(x, y) / 32;
+    float bend = 0.012f * noise.gradient(angle, out, {9, 8});
+    return 0.6f * noise.value(angle + bend, out, {64, 10}) +
+           0.4f * noise.value(angle + bend, out, {120, 16});
+}
+
+// A light from above on something round: `height` is 1 at its top and -1 at its bottom, `depth`
+// how far below its edge a place lies, in units.
+Colour furColour(float height, float depth, float tuft) {
+    Colour c = mix(furDeep, fur, ramp(-1.0f, 0.35f, height));
+    c = mix(c, furLight, 0.55f * ramp(0.1f, 1.05f, height));
+    c = c * mix(0.72f, 1.22f, tuft);
+    float rim = ramp(1.9f, 0.1f, depth) * mix(0.34f, 0.95f, ramp(-0.5f, 0.8f, height));
+    return mix(c, rimLight, rim * mix(0.75f, 1.0f, tuft));
+}
+
+// The eye is nearly half of the face, and looks ahead and a little up: it hopes.
+void paintEye(Canvas& canvas, const Units& units, const Noise& noise) {
+    constexpr float ex = -3.6f, ey = 4.3f, radius = 6.0f;
+    constexpr float px = ex - 1.9f, py = ey + 0.35f;
+    // A soft socket, then the ball.
+    layer(canvas, units, [&](float x, float y) {
+        return furDeep.fade(0.85f * ramp(1.5f, 0.0f, shape::disc(x - ex, y - ey, radius)));
+    });
+    layer(canvas, units, [&](float x, float y) {
+        float d = shape::disc(x - ex, y - ey, radius);
+        Colour ball = mix(palette::bone, Colour{1.0f, 0.98f, 0.94f}, ramp(1.2f, -3.0f, d));
+        ball = mix(ball, Colour{0.55f, 0.50f, 0.66f}, 0.85f * ramp(1.8f, 6.2f, y - ey));
+        ball = mix(ball, Colour{0.62f, 0.55f, 0.66f}, 0.55f * ramp(-1.6f, 0.1f, d));
+        return ball.fade(units.coverage(d));
+    });
+    layer(canvas, units, [&](float x, float y) {
+        float d = shape::disc(x - px, y - py, 3.8f);
+        float spoke = noise.value(std::atan2(y - py, x - px) / 6.2831853f + 0.5f, 0.5f, {40, 1});
+        Colour c = mix(iris, iris * 0.55f, ramp(-1.0f, 0.9f, (y - py) / 3.5f));
+        c = mix(c, Colour{1.0f, 0.78f, 0.42f}, 0.75f * ramp(0.2f, -3.0f, y - py)) *
+            mix(0.85f, 1.12f, spoke);
+        c = mix(c, furDeep * 0.6f, ramp(-0.9f, -0.1f, d));
+        return c.fade(units.coverage(d));
+    });
+    layer(canvas, units, [&](float x, float y) {
+        return Colour{0.02f, 0.018f, 0.04f, units.coverage(shape::disc(x - px, y - py, 2.45f))};
+    });
+    layer(canvas, units, [&](float x, float y) {
+        float big = units.coverage(shape::ellipse(x - px + 1.1f, y - py - 1.55f, 1.25f, 1.05f));
+        float small = 0.7f * units.coverage(shape::disc(x - px - 1.25f, y - py + 1.4f, 0.5f));
+        return Colour{1, 1, 1, std::max(big, small)};
+    });
+    // The lid comes down towards the back, which makes the look a wistful one.
+    layer(canvas, units, [&](float x, float y) {
+        float ball = shape::disc(x - ex, y - ey, radius + 0.55f);
+        float lid = (ey + 4.7f - 0.13f * (x - ex) - 0.045f * (x - ex) * (x - ex)) - y;
+        Colour c = mix(fur, furLight, 0.5f * ramp(1.0f, 4.0f, y - ey - 2.5f));
+        c = mix(c, furDeep * 0.7f, ramp(-0.9f, -0.1f, lid));
+        return c.fade(units.coverage(std::max(ball, lid)));
+    });
+}
+
+void paintMouth(Canvas& canvas, const Units& units) {
+    layer(canvas, units, [&](float x, float y) {
+        float mx = x + 5.4f, my = y + 4.5f;
+        float curve = my - 0.20f * mx * mx + 0.10f * mx;
+        float line = std::max(std::abs(curve) - 0.42f, std::abs(mx) - 2.1f);
+        float lip = std::max(std::abs(curve + 0.85f) - 0.35f, std::abs(mx) - 1.5f);
+        Colour c = mix(furLight.fade(0.5f * units.coverage(lip)), Colour{0.03f, 0.02f, 0.05f},
+                       units.coverage(line));
+        return c.fade(std::max(0.5f * units.coverage(lip), units.coverage(line)));
+    });
+    layer(canvas, units, [&](float x, float y) {
+        float blush = ramp(1.0f, 0.0f, shape::ellipse(x - 1.9f, y + 3.0f, 1.6f, 1.0f));
+        return palette::rust.fade(0.35f * blush);
+    });
+}
+
+// The near leg has a haunch that lies on the body and melts into its fur; the far leg comes out
+// of the shade under it. Both reach well into the body, since a jump pulls them out of it.
+void paintLeg(Canvas& canvas, std::uint32_t seed, float hipX, bool near) {
+    Noise noise(seed);
+    Units units(canvas, 15);
+    layer(canvas, units, [&](float x, float y) {
+        float shin = shape::capsule(x, y, hipX + 0.5f, -4.2f, hipX - 0.2f, -12.0f, 3.2f, 2.1f);
+        float foot = shape::ellipse(x - hipX + 1.3f, y + 12.6f, 4.6f, 2.45f);
+        float d = std::max(shape::blend(shin, foot, 1.6f), -15.0f - y);
+        float height = ramp(-15.0f, -9.5f, y) * 2 - 1;
+        float up = ramp(-10.5f, -6.0f, y);
+        Colour c = furColour(mix(0.5f * height - 0.1f, -0.35f, up), mix(-d, 9.0f, up),
+                             furAt(noise, x - hipX, y + 16));
+        float toe = std::min(std::abs(x - hipX + 4.6f), std::abs(x - hipX + 3.0f)) - 0.18f;
+        c = mix(c, furDeep * 0.5f, 0.8f * units.coverage(toe) * ramp(-12.2f, -13.4f, y));
+        if (!near) {
+            c = mix(c * 0.66f, furDeep * 0.5f, up);
+        }
+        return c.fade(units.coverage(d) * (near ? ramp(-3.5f, -8.5f, y) : 1.0f));
+    });
+}
+
+} // namespace
+
+void paintBody(Canvas& canvas, std::uint32_t seed) {
+    Noise noise(seed);
+    Units units(canvas, 16);
+    layer(canvas, units, [&](float x, float y) {
+        float cy = y - 2.3f;
+        float angle = std::atan2(cy, x) / 6.2831853f + 0.5f;
+        float ragged = 0.55f * (noise.value(angle, 0, {70, 1}) - 0.5f) +
+                       0.5f * noise.gradient(angle, 0.3f, {14, 1});
+        float d = shape::ellipse(x, cy, 12.6f, 11.4f) + ragged;
+        // Three hairs stand up on the head.
+        float tuft = std::min({shape::capsule(x, y, 0.2f, 12.5f, -1.6f, 15.4f, 1.1f, 0.25f),
+                               shape::capsule(x, y, 0.6f, 12.5f, 1.0f, 15.9f, 1.2f, 0.25f),
+                               shape::capsule(x, y, 1.2f, 12.5f, 3.6f, 14.9f, 1.1f, 0.25f)});
+        d = shape::blend(d, tuft, 0.8f);
+        Colour c = furColour(cy / 11.4f - 0.12f * x / 12, -d, furAt(noise, x, cy));
+        // The belly is softer and lighter.
+        c = mix(c, furLight * 0.85f,
+                0.28f * ramp(7.0f, 1.5f, std::hypot((x + 3.5f) * 0.8f, (y + 5.0f) * 1.3f)));
+        return c.fade(units.coverage(d));
+    });
+    paintEye(canvas, units, noise);
+    paintMouth(canvas, units);
+}
+
+void paintFarLeg(Canvas& canvas, std::uint32_t seed) {
+    paintLeg(canvas, seed, -4.4f, false);
+}
+
+void paintNearLeg(Canvas& canvas, std::uint32_t seed) {
+    paintLeg(canvas, seed, 4.6f, true);
+}
+
+// The arm stands upright and turns about its lower end, which lies in the middle of the body and
+// so fades out there: the arm seems to come out of the fur.
+void paintArm(Canvas& canvas, std::uint32_t seed) {
+    Noise noise(seed);
+    constexpr float length = 18, width = 7;
+    for (int row = 0; row < canvas.height(); ++row) {
+        for (int column = 0; column < canvas.width(); ++column) {
+            float x =
+                ((static_cast<float>(column) + 0.5f) / static_cast<float>(canvas.width()) - 0.5f) *
+                width;
+            float y =
+                (static_cast<float>(row) + 0.5f) / static_cast<float>(canvas.height()) * length;
+            float arm = shape::capsule(x, y, 0, 3, 0, 14, 1.35f, 1.55f);
+            float hand = shape::disc(x, y - 15.0f, 2.45f);
+            float thumb = shape::capsule(x, y, 1.4f, 13.8f, 2.5f, 15.2f, 0.7f, 0.6f);
+            float d = shape::blend(shape::blend(arm, hand, 1.2f), thumb, 0.6f);
+            float tuft = furAt(noise, x, y + 4);
+            Colour c = furColour(0.25f + 0.03f * y, -d, tuft);
+            float pixel = width / static_cast<float>(canvas.width());
+            canvas.over(column, row, c.fade(shape::coverage(d / pixel) * ramp(3.5f, 8.5f, y)));
+        }
+    }
+}
