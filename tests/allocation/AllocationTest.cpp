@@ -1,0 +1,102 @@
+#include "support/EngineFixture.h"
+
+#include "graphicsModule/GraphicsModule.h"
+#include "inputModule/InputModule.h"
+#include "physicsModule/PhysicsModule.h"
+#include "sceneManager/SceneManager.h"
+#include "sceneManager/SceneObjectDescription.h"
+#include "sceneManager/So_Addons/CallbackAdd.h"
+
+#include <LinearMath/btAlignedAllocator.h>
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::size_t allocations = 0;
+
+void* countedAllocation(std::size_t size) {
+    ++allocations;
+    return std::malloc(size);
+}
+
+void release(void* block) {
+    std::free(block);
+}
+
+} // namespace
+
+// All allocations of this program pass here. Not inlined: the compiler would pair our malloc with
+// somebody's delete, and warn.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+    if (void* block = countedAllocation(size)) {
+        return block;
+    }
+    throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* block) noexcept {
+    release(block);
+}
+[[gnu::noinline]] void operator delete(void* block, std::size_t /*size*/) noexcept {
+    release(block);
+}
+
+namespace {
+
+SceneObjectDescription look(float mass) {
+    SceneObjectDescription description{};
+    description.physical = true;
+    description.friction = 0.5F;
+    description.mass = mass;
+    description.texture = -1;
+    description.parallax = 1.0F;
+    description.r = description.g = description.b = description.a = 1.0F;
+    return description;
+}
+
+/// Crates and discs at rest on a floor, one with a chain that counts a long delay.
+void fillStillScene() {
+    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 0, -50, 900, 50)));
+    for (int i = 0; i < 20; ++i) {
+        const float x = static_cast<float>(i) * 60.0F - 600.0F;
+        sceneManager().addSceneObject(
+            new SceneObject(i % 2 == 0 ? makeBoxParts(look(1.0F), x, 20, 20, 20)
+                                       : makeSphereParts(look(1.0F), x, 20, 20)));
+    }
+    auto* machine = new SceneObject(makeBoxParts(look(0.0F), 0, 300, 20, 20));
+    machine->addAddition(parseScript("TRIGGER -P LOCK DELAY 100000 X NAME machine"));
+    sceneManager().addSceneObject(machine);
+    physicsModule().addScript(parseScript("DELAY 100000 X"));
+}
+
+class Allocation : public EngineFixture {
+protected:
+    void SetUp() override {
+        btAlignedAllocSetCustom(countedAllocation, release); // Bullet's own as well
+        EngineFixture::SetUp();
+    }
+};
+
+} // namespace
+
+TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
+    fillStillScene();
+    inputModule().showTip("A tip of four words", 0.0F, 0.0F, false, false);
+    step(240);
+    frame(10);
+
+    allocations = 0;
+    step(60);
+    EXPECT_EQ(allocations, 0U) << "in a step";
+    allocations = 0;
+    for (int i = 0; i < 20; ++i) {
+        graphicsModule().update();
+    }
+    EXPECT_EQ(allocations, 0U) << "in a frame";
+    allocations = 0;
+    for (int i = 0; i < 20; ++i) {
+        inputModule().update();
+    }
+    EXPECT_EQ(allocations, 0U) << "in a poll of the input";
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <LinearMath/btVector3.h>
+
+#include <set>
+#include <string>
+
+class Player;
+class SceneObject;
+class ScriptedWindow;
+
+/// Plays the real modules step by step, with the input of a scripted window: one step is one poll
+/// of the input and one update of physics, and a frame is drawn now and then.
+class GameDriver {
+public:
+    /// The engine must be set up. Starts the game, as the program does.
+    explicit GameDriver(ScriptedWindow& window);
+
+    void step();
+    /// Presses or releases: left, right, up, down, shift, mouse, mouse2.
+    void hold(const std::string& key, bool down);
+    /// Keeps the mouse at a place in world units from the protagonist, from now on.
+    void aim(float x, float y);
+    /// Saves the running scene and goes on from the file.
+    void reload();
+
+    Player* player() const; ///< The protagonist; null when dead.
+    static btVector3 placeOf(const SceneObject& object);
+    std::string describePlace() const;
+    /// A number that two scenes share only if they would be saved alike.
+    static std::size_t sceneHash();
+    /// Draws a frame and keeps it as a picture (portable pixmap).
+    void screenshot(const std::string& path);
+
+    /// Keeps a picture of every so many steps in a directory, to judge a level by.
+    void keepPictures(const std::string& directory, int everySteps);
+
+    int steps = 0;
+
+private:
+    void pointMouse();
+    void draw();
+
+    ScriptedWindow& window;
+    std::set<int> heldKeys;
+    std::string pictureDirectory; // empty for none
+    int pictureSteps = 0;
+    bool aiming = false;
+    float aimX = 0.0F;
+    float aimY = 0.0F;
+};

@@ -1,0 +1,224 @@
+#include "Walkthrough.h"
+
+#include "GameDriver.h"
+
+#include "sceneManager/Player.h"
+#include "sceneManager/SceneManager.h"
+#include "sceneManager/So_Addons/ObjectNameAdd.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+Words splitWords(const std::string& line) {
+    std::istringstream stream(line);
+    Words words;
+    for (std::string word; stream >> word;) {
+        words.push_back(word);
+    }
+    return words;
+}
+
+int number(const std::string& word) {
+    std::size_t used = 0;
+    const int value = std::stoi(word, &used);
+    if (used != word.size()) {
+        throw std::invalid_argument(word);
+    }
+    return value;
+}
+
+/// Takes the words of a condition from place `at` on, with its "within".
+Condition parseCondition(const Words& words, std::size_t at, int& limit) {
+    Condition condition;
+    std::size_t end = words.size();
+    if (end >= at + 2 && words[end - 2] == "within") {
+        limit = number(words[end - 1]);
+        end -= 2;
+    }
+    const Words rest(words.begin() + static_cast<std::ptrdiff_t>(at),
+                     words.begin() + static_cast<std::ptrdiff_t>(end));
+    if (rest.size() == 1 && rest[0] == "standing") {
+        condition.kind = Condition::Kind::standing;
+    } else if (rest.size() == 2 && rest[0] == "touching") {
+        condition.kind = Condition::Kind::touching;
+        condition.name = rest[1];
+    } else if (rest.size() == 2 && rest[0] == "on") {
+        condition.kind = Condition::Kind::on;
+        condition.name = rest[1];
+    } else if (rest.size() == 2 && rest[1] == "gone") {
+        condition.kind = Condition::Kind::gone;
+        condition.name = rest[0];
+    } else if (rest.size() == 3 || rest.size() == 4) {
+        const std::size_t first = rest.size() - 3;
+        condition.kind = Condition::Kind::coordinate;
+        condition.name = first == 1 ? rest[0] : "";
+        condition.axis = rest[first].at(0);
+        condition.above = rest[first + 1] == "above";
+        condition.value = static_cast<float>(number(rest[first + 2]));
+        if ((condition.axis != 'x' && condition.axis != 'y') ||
+            (!condition.above && rest[first + 1] != "below")) {
+            throw std::invalid_argument("condition");
+        }
+    } else {
+        throw std::invalid_argument("condition");
+    }
+    return condition;
+}
+
+void parseDuration(const Words& words, std::size_t at, Direction& direction) {
+    if (words.at(at) == "until") {
+        direction.untilCondition = true;
+        direction.condition = parseCondition(words, at + 1, direction.limit);
+    } else {
+        direction.steps = number(words.at(at));
+    }
+}
+
+Direction parseDirection(const std::string& text, int line) {
+    const Words words = splitWords(text);
+    Direction direction;
+    direction.line = line;
+    direction.text = text;
+    const std::string& verb = words.at(0);
+    if (verb == "hold" || verb == "release") {
+        direction.verb = verb == "hold" ? Direction::Verb::hold : Direction::Verb::release;
+        direction.key = words.at(1);
+    } else if (verb == "walk") {
+        direction.verb = Direction::Verb::walk;
+        direction.key = words.at(1);
+        parseDuration(words, 2, direction);
+    } else if (verb == "jump") {
+        direction.verb = Direction::Verb::jump;
+        direction.key = "up";
+        direction.steps = number(words.at(1));
+    } else if (verb == "wait") {
+        direction.verb = Direction::Verb::wait;
+        parseDuration(words, 1, direction);
+    } else if (verb == "aim") {
+        direction.verb = Direction::Verb::aim;
+        direction.x = static_cast<float>(number(words.at(1)));
+        direction.y = static_cast<float>(number(words.at(2)));
+    } else if (verb == "expect") {
+        direction.verb = Direction::Verb::expect;
+        direction.condition = parseCondition(words, 1, direction.limit);
+    } else if (verb == "reload") {
+        direction.verb = Direction::Verb::reload;
+    } else {
+        throw std::invalid_argument(verb);
+    }
+    return direction;
+}
+
+bool hasName(const SceneObject& object, const std::string& name) {
+    const auto* addition =
+        static_cast<const ObjectNameAdd*>(object.findAddition(AdditionType::objectName));
+    return addition != nullptr && addition->getName() == name;
+}
+
+} // namespace
+
+bool Condition::holds(const GameDriver& game) const {
+    Player* player = game.player();
+    if (kind == Kind::gone) {
+        return sceneManager().getSceneObject(name) == nullptr;
+    }
+    if (player == nullptr) {
+        return false;
+    }
+    switch (kind) {
+    case Kind::standing:
+        return player->supportNow != nullptr;
+    case Kind::touching:
+        return player->touchesObject(name);
+    case Kind::on:
+        return player->supportNow != nullptr && hasName(*player->supportNow, name);
+    default:
+        break;
+    }
+    const SceneObject* object = name.empty() ? player : sceneManager().getSceneObject(name);
+    if (object == nullptr) {
+        return false;
+    }
+    const btVector3 place = GameDriver::placeOf(*object);
+    const float coordinate = axis == 'x' ? place.x() : place.y();
+    return above ? coordinate > value : coordinate < value;
+}
+
+Walkthrough::Walkthrough(const std::string& file) : path(file) {
+    std::ifstream stream(file);
+    if (!stream) {
+        throw file + " - no such file or directory";
+    }
+    int line = 0;
+    for (std::string text; std::getline(stream, text);) {
+        ++line;
+        const Words words = splitWords(text);
+        if (words.empty() || words[0].front() == '#') {
+            continue;
+        }
+        try {
+            directions.push_back(parseDirection(text, line));
+        } catch (const std::exception&) {
+            throw file + ":" + std::to_string(line) + ": not a direction: " + text;
+        }
+    }
+}
+
+void Walkthrough::play(GameDriver& game) const {
+    for (const Direction& direction : directions) {
+        try {
+            follow(direction, game);
+        } catch (const std::string& reason) {
+            throw path + ":" + std::to_string(direction.line) + ": " + direction.text + ": " +
+                reason + ", " + game.describePlace();
+        }
+    }
+}
+
+void Walkthrough::follow(const Direction& direction, GameDriver& game) const {
+    switch (direction.verb) {
+    case Direction::Verb::hold:
+        game.hold(direction.key, true);
+        return;
+    case Direction::Verb::release:
+        game.hold(direction.key, false);
+        return;
+    case Direction::Verb::aim:
+        game.aim(direction.x, direction.y);
+        return;
+    case Direction::Verb::reload:
+        game.reload();
+        return;
+    case Direction::Verb::expect:
+        if (!direction.condition.holds(game)) {
+            throw std::string("is not so");
+        }
+        return;
+    default:
+        break;
+    }
+
+    if (!direction.key.empty()) {
+        game.hold(direction.key, true);
+    }
+    if (direction.untilCondition) {
+        int steps = 0;
+        while (!direction.condition.holds(game)) {
+            if (++steps > direction.limit) {
+                throw "not so after " + std::to_string(direction.limit) + " steps";
+            }
+            game.step();
+        }
+    } else {
+        for (int i = 0; i < direction.steps; ++i) {
+            game.step();
+        }
+    }
+    if (!direction.key.empty()) {
+        game.hold(direction.key, false);
+    }
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "RecordingDevice.h"
+#include "ScriptedWindow.h"
+#include "TempDirectory.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+/// The whole engine, set up in the order of the program and without its story, in a directory of
+/// its own: the settings at their usual values with CR LF ends, a language file whose line n is
+/// "line n", and empty folders for maps, textures and saves. Nothing is drawn and no time passes
+/// but by the test. Each test finds the process as it was at its start.
+class EngineFixture : public testing::Test {
+protected:
+    EngineFixture();
+    ~EngineFixture() override;
+
+    void SetUp() override;
+    void TearDown() override;
+
+    /// That many updates of `PhysicsModule`, without input and drawing.
+    void step(int count = 1);
+    /// That many ticks of the loop, a 60th of a second apart. Each polls input and draws once.
+    void frame(int count = 1);
+
+    // For tests that draw, or that live in other directories. Called in `SetUp`, in this order.
+    /// Fills the directory, which is the current one.
+    virtual void prepareDirectory();
+    /// The window that the scripted one wraps; none.
+    virtual std::unique_ptr<platform::Window> makeInnerWindow() { return nullptr; }
+    /// Called when the window is open; a `RecordingDevice`, kept as `device`.
+    virtual std::unique_ptr<PaintDevice> makeDevice();
+
+    TempDirectory directory;
+    std::string startDirectory;        ///< Where the test program was started; absolute.
+    ScriptedWindow* window = nullptr;  ///< Owned by the process.
+    RecordingDevice* device = nullptr; ///< Owned by the painter; null if `makeDevice` made another.
+};

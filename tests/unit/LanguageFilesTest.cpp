@@ -1,0 +1,130 @@
+#include "support/EngineFixture.h"
+
+#include "Language.h"
+#include "graphicsModule/GraphicsLetter.h"
+#include "platform/Image.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+namespace {
+
+const std::string gameDirectory = TOLMERE_GAME_DIRECTORY "/";
+constexpr const char* languageFiles[] = {"lang_eng.txt", "lang_pol.txt"};
+
+std::string contentsOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
+
+} // namespace
+
+/// The languages as they are shipped, read by the game's own reader.
+class LanguageFilesTest : public EngineFixture {
+protected:
+    void load(const char* name) {
+        directory.write(languageFile, contentsOf(gameDirectory + name));
+        loadLanguage();
+    }
+
+    static std::set<int> definedNumbers() {
+        std::set<int> numbers;
+        for (std::size_t i = 0; i < languageTable.size(); ++i) {
+            if (!languageTable[i].empty()) {
+                numbers.insert(static_cast<int>(i) + 1);
+            }
+        }
+        return numbers;
+    }
+
+    /// Runs the builder on that source. Returns its exit status; what it says goes to `said`.
+    int build(const std::string& source) {
+        directory.write("in.txt", source);
+        std::string command = gameDirectory + "../tools/language/language_builder " +
+                              directory.file("in.txt") + " " + directory.file("out.txt") + " 2>" +
+                              directory.file("said.txt");
+        int status = std::system(command.c_str());
+        said = contentsOf(directory.file("said.txt"));
+        return status;
+    }
+
+    std::string said;
+};
+
+TEST_F(LanguageFilesTest, AllLanguagesHoldTheSameTexts) {
+    load(languageFiles[0]);
+    const std::set<int> numbers = definedNumbers();
+    for (int needed : {18, 29, 390, 391, 393, 394, 400}) {
+        EXPECT_TRUE(numbers.contains(needed)) << needed;
+    }
+    for (const char* name : languageFiles) {
+        load(name);
+        EXPECT_EQ(definedNumbers(), numbers) << name;
+        EXPECT_GE(languageTable.size(), 394U) << name;
+    }
+}
+
+TEST_F(LanguageFilesTest, TipsFitOnTwoRows) {
+    for (const char* name : languageFiles) {
+        load(name);
+        for (int n : definedNumbers()) {
+            EXPECT_LE(text(n).size(), 110U) << name << " " << n;
+        }
+    }
+}
+
+TEST_F(LanguageFilesTest, EveryLetterOfEveryTextIsDrawnInTheFont) {
+    platform::Image font;
+    std::string reason;
+    ASSERT_TRUE(platform::readTga(gameDirectory + "data/text2.tga", font, reason)) << reason;
+    auto ink = [&](char letter) {
+        GraphicsLetter shown(0, 0, 16, 16, letter, 1, 1, 1, 1);
+        const std::vector<float>& uv = shown.getData().texcoords;
+        auto pixel = [](float t) { return static_cast<int>(std::floor(t * 256)); };
+        int sum = 0;
+        for (int y = pixel(uv[1]); y < pixel(uv[3]); ++y) {
+            for (int x = pixel(uv[0]); x < pixel(uv[4]); ++x) {
+                int wrapped = (y & 255) * 256 + (x & 255);
+                sum += font.pixels[static_cast<std::size_t>(wrapped) * 4 + 3];
+            }
+        }
+        return sum;
+    };
+    EXPECT_EQ(ink(' '), 0);
+    EXPECT_GT(ink('W'), 3 * ink('.'));
+    for (const char* name : languageFiles) {
+        load(name);
+        for (const std::string& line : languageTable) {
+            for (char letter : line) {
+                EXPECT_TRUE(letter == ' ' || ink(letter) > 255) << name << ": " << line;
+            }
+        }
+    }
+}
+
+TEST_F(LanguageFilesTest, TheBuilderPutsTextsOnTheirLines) {
+    ASSERT_EQ(build("# note\r\n3: three: \xC5\xBC\xC3\xB3\xC5\x82w\r\n\n1\tone\n"), 0) << said;
+    EXPECT_TRUE(contentsOf(directory.file("out.txt"))
+                    .starts_with("one\r\n\r\nthree: \xBF\xF3\xB3w\r\n\r\n"));
+}
+
+TEST_F(LanguageFilesTest, TheBuilderNamesTheLineThatIsWrong) {
+    struct Case {
+        const char *source, *complaint;
+    };
+    for (const Case& c :
+         {Case{"1: a\n2: b\n1: c\n", "in.txt:3: the text 1 was given before"},
+          Case{"1: a\n2: \xE2\x80\x93\n", "in.txt:2: the game has no letter U+2013"},
+          Case{"1: broken \xC5\n", "in.txt:1: the game has no letter U+FFFD"},
+          Case{"\n\nno number\n", "in.txt:3: a text begins with its number"},
+          Case{"0: zero\n", "in.txt:1: a text begins with its number"},
+          Case{"7:tight\n", "in.txt:1: a text begins with its number"}}) {
+        EXPECT_NE(build(c.source), 0);
+        EXPECT_NE(said.find(c.complaint), std::string::npos) << said;
+    }
+}

@@ -1,0 +1,335 @@
+#include "support/EngineFixture.h"
+
+#include "Files.h"
+#include "TextStream.h"
+#include "graphicsModule/MultiGraphics.h"
+#include "graphicsModule/TransformGraphicsObject.h"
+#include "physicsModule/PhysicsModule.h"
+#include "physicsModule/PhysicsObject.h"
+#include "sceneManager/MapFile.h"
+#include "sceneManager/SceneObject.h"
+#include "sceneManager/So_Addons/CallbackAdd.h"
+#include "tools/mapc/MapCompiler.h"
+#include "tools/mapc/MapDump.h"
+#include "tools/mapc/ObjectClass.h"
+#include "tools/mapc/Texcoords.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+#include <BulletCollision/CollisionShapes/btCompoundShape.h>
+#include <BulletDynamics/ConstraintSolver/btGeneric6DofSpringConstraint.h>
+#include <BulletDynamics/ConstraintSolver/btHingeConstraint.h>
+#include <BulletDynamics/Dynamics/btRigidBody.h>
+
+// From what the editor writes to what the engine reads.
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr const char* start =
+    R"({"id":90,"name":"STARTPOS","type":"Marker","point":true,"x":-500,"y":0,)"
+    R"("properties":[{"name":"parallax","value":1}]})";
+
+/// A map with its origin at 0, 100 of the editor and one layer that holds these objects.
+std::string mapOf(const std::string& objects, const std::string& layerFields = "") {
+    return R"({"type":"map","parallaxoriginy":100,"layers":[{"type":"objectgroup","id":1,)" +
+           layerFields + R"("objects":[)" + objects + "," + start + "]}]}";
+}
+
+/// A property list of numbers and texts, as the editor writes it.
+std::string with(const std::map<std::string, nlohmann::json>& properties) {
+    nlohmann::json list = nlohmann::json::array();
+    for (const auto& [name, value] : properties) {
+        list.push_back({{"name", name}, {"value", value}});
+    }
+    return R"(,"properties":)" + list.dump();
+}
+
+class MapCompilerTest : public EngineFixture {
+protected:
+    std::vector<mapc::Problem> problems;
+
+    std::string compile(const std::string& source) {
+        mapc::MapOptions options{mapc::TextureSizes(), "",
+                                 [](const std::string& word) { return word == "KNOWN"; }};
+        problems.clear();
+        return mapc::compileMap(source, options, problems);
+    }
+
+    SceneBundle load(const std::string& source) {
+        const std::string text = compile(source);
+        for (const mapc::Problem& problem : problems) {
+            ADD_FAILURE() << mapc::describe(problem, "map");
+        }
+        TextReader stream(text);
+        return parseScene(stream, true);
+    }
+
+    /// What is said of a map that holds the object and should not compile.
+    std::string complaintOf(const std::string& objects) {
+        EXPECT_EQ("", compile(mapOf(objects)));
+        return problems.empty() ? "nothing" : mapc::describe(problems[0], "map");
+    }
+};
+
+btRigidBody& bodyOf(const SceneBundle& bundle, std::size_t index) {
+    return *bundle.objects.at(index)->physicsObject->body;
+}
+
+float turnOf(const btRigidBody& body) {
+    const btMatrix3x3& basis = body.getWorldTransform().getBasis();
+    return std::atan2(basis[1][0], basis[0][0]);
+}
+
+GraphicsObjecte& polygonOf(const SceneBundle& bundle, std::size_t index) {
+    return dynamic_cast<GraphicsObjecte&>(*bundle.objects.at(index)->graphicsObject);
+}
+
+} // namespace
+
+TEST_F(MapCompilerTest, EveryShapeStandsWhereTheEditorShowsIt) {
+    const SceneBundle bundle = load(mapOf(
+        R"({"id":1,"type":"Wall","x":0,"y":60,"width":200,"height":40},)"
+        R"({"id":2,"type":"Crate","x":10,"y":-10,"width":20,"height":20,"rotation":90},)"
+        R"({"id":3,"type":"Body","ellipse":true,"x":60,"y":0,"width":30,"height":30},)"
+        R"({"id":4,"type":"Body","x":130,"y":40,"polygon":[{"x":0,"y":0},{"x":30,"y":0},{"x":0,"y":-30}])" +
+        with({{"mass", 3.5}, {"velocityX", 7.0}, {"friction", 0.25}, {"kind", 3}}) + "}"));
+
+    ASSERT_EQ(5U, bundle.objects.size());
+    const btVector3 wall = bodyOf(bundle, 0).getWorldTransform().getOrigin();
+    EXPECT_EQ(btVector3(100, 20, 0), wall) << "y goes up from the map's origin";
+    EXPECT_TRUE(bodyOf(bundle, 0).isStaticObject());
+    EXPECT_EQ(BOX_2D_SHAPE_PROXYTYPE, bodyOf(bundle, 0).getCollisionShape()->getShapeType());
+
+    const btVector3 crate = bodyOf(bundle, 1).getWorldTransform().getOrigin();
+    EXPECT_NEAR(0.0F, crate.x(), 0.001F) << "turned about its corner, clockwise";
+    EXPECT_NEAR(100.0F, crate.y(), 0.001F);
+    EXPECT_NEAR(-SIMD_HALF_PI, turnOf(bodyOf(bundle, 1)), 0.001F);
+
+    EXPECT_EQ(btVector3(75, 85, 0), bodyOf(bundle, 2).getWorldTransform().getOrigin());
+
+    const btRigidBody& triangle = bodyOf(bundle, 3);
+    EXPECT_NEAR(140.0F, triangle.getWorldTransform().getOrigin().x(), 0.01F) << "centre of mass";
+    EXPECT_NEAR(70.0F, triangle.getWorldTransform().getOrigin().y(), 0.01F);
+    EXPECT_FLOAT_EQ(3.5F, 1.0F / triangle.getInvMass());
+    EXPECT_FLOAT_EQ(7.0F, triangle.getLinearVelocity().x());
+    EXPECT_FLOAT_EQ(0.25F, triangle.getFriction());
+    EXPECT_EQ(3, bundle.objects[3]->physicsObject->kind);
+}
+
+TEST_F(MapCompilerTest, WhatHasNoSolidBodyIsDrawnFeltOrNamed) {
+    const SceneBundle bundle = load(mapOf(
+        R"({"id":1,"name":"only for the editor","type":"Scenery","x":0,"y":0,"width":10,"height":10},)"
+        R"({"id":2,"type":"Mesh","x":0,"y":100,"polygon":[{"x":0,"y":0},{"x":20,"y":-20},{"x":40,"y":0},{"x":20,"y":-10}]},)"
+        R"({"id":3,"name":"HERE","type":"Trigger","x":0,"y":0,"width":50,"height":50)" +
+        with({{"script", "TRIGGER -P LOCK TIP 2 DELAY 300 TIP -1\r\n\n  SETLOCK STARTPOS"}}) +
+        R"(},{"id":4,"type":"Forcefield","x":100,"y":0,"width":50,"height":50)" +
+        with({{"forceY", 1.5}}) + "}"));
+
+    EXPECT_EQ(nullptr, bundle.objects[0]->physicsObject);
+    EXPECT_TRUE(bundle.objects[0]->additions.empty());
+    EXPECT_EQ(4, bundle.objects[1]->graphicsObject->type);
+    EXPECT_EQ(12U, polygonOf(bundle, 1).getData().vertices.size()) << "two triangles";
+
+    const SceneObject& trigger = *bundle.objects[2];
+    EXPECT_TRUE(bodyOf(bundle, 2).getCollisionFlags() & btCollisionObject::CF_NO_CONTACT_RESPONSE);
+    ASSERT_EQ(3U, trigger.additions.size()) << "the name and one chain a line";
+    EXPECT_EQ(AdditionType::objectName, trigger.additions[0]->type);
+    EXPECT_EQ(AdditionType::trigger, trigger.additions[1]->type);
+    EXPECT_EQ(AdditionType::setLock, trigger.additions[2]->type);
+    float alpha = 1.0F;
+    float ignored = 0.0F;
+    trigger.graphicsObject->getColour(ignored, ignored, ignored, alpha);
+    EXPECT_EQ(0.0F, alpha);
+
+    EXPECT_EQ(sceneObjectType::forcefield, bundle.objects[3]->type);
+    EXPECT_EQ(0, bundle.objects[4]->physicsObject->kind) << "a marker meets nothing";
+}
+
+TEST_F(MapCompilerTest, ACompoundTurnsAboutItsCentreOfMass) {
+    const std::string layer = R"("class":"Compound","properties":[{"name":"mass","value":2.5}],)";
+    const std::string parts =
+        R"({"id":1,"name":"CART","type":"Body","x":0,"y":100,"width":30,"height":10},)"
+        R"({"id":2,"type":"Body","x":30,"y":100,"width":10,"height":30},)"
+        R"({"id":3,"type":"Scenery","x":-100,"y":0,"width":10,"height":10})";
+    const std::string source = R"({"type":"map","layers":[{"type":"objectgroup","id":7,)" + layer +
+                               R"("objects":[)" + parts +
+                               R"(]},{"type":"objectgroup","id":8,"objects":[)" + start + "]}]}";
+    const SceneBundle bundle = load(source);
+
+    ASSERT_EQ(2U, bundle.objects.size());
+    const btRigidBody& cart = bodyOf(bundle, 0);
+    EXPECT_FLOAT_EQ(2.5F, 1.0F / cart.getInvMass());
+    EXPECT_EQ(btVector3(25, -110, 0), cart.getWorldTransform().getOrigin());
+    const auto& shape = dynamic_cast<const btCompoundShape&>(*cart.getCollisionShape());
+    ASSERT_EQ(2, shape.getNumChildShapes()) << "scenery in a group is only drawn";
+    EXPECT_EQ(btVector3(-10, 5, 0), shape.getChildTransform(0).getOrigin());
+    const auto& group = dynamic_cast<MultiGraphics&>(*bundle.objects[0]->graphicsObject);
+    EXPECT_EQ(3U, group.getChildren().size());
+}
+
+TEST_F(MapCompilerTest, JointsAreToldFromThePositionThatIsDrawn) {
+    SceneBundle bundle =
+        load(mapOf(R"({"id":1,"type":"Body","x":0,"y":0,"width":100,"height":10,"rotation":30},)"
+                   R"({"id":2,"type":"Body","x":300,"y":0,"width":100,"height":40},)"
+                   R"({"id":3,"type":"Hinge","point":true,"x":0,"y":0)" +
+                   with({{"a", 1}, {"lower", -10.0}, {"upper", 20.0}}) +
+                   R"(},{"id":4,"type":"Slider","point":true,"x":350,"y":20)" +
+                   with({{"a", 2}, {"left", 10.0}, {"right", 50.0}, {"speedRight", 60.0}}) + "}"));
+    ASSERT_EQ(2U, bundle.joints.size());
+    const auto& hinge = dynamic_cast<btHingeConstraint&>(*bundle.joints[0]);
+    EXPECT_NEAR(btRadians(20), hinge.getLowerLimit(), 0.001F);
+    EXPECT_NEAR(btRadians(50), hinge.getUpperLimit(), 0.001F);
+
+    const btRigidBody& plank = bodyOf(bundle, 0);
+    const btRigidBody& lift = bodyOf(bundle, 1);
+    auto& slider = dynamic_cast<btGeneric6DofSpringConstraint&>(*bundle.joints[1]);
+    EXPECT_TRUE(slider.getTranslationalLimitMotor()->m_enableMotor[0]);
+    sceneManager().addScene(std::move(bundle));
+    step(30);
+    EXPECT_NEAR(380.0F, lift.getWorldTransform().getOrigin().x(), 3.0F)
+        << "half a second to the right";
+    EXPECT_NEAR(80.0F, lift.getWorldTransform().getOrigin().y(), 1.0F) << "and held up";
+    step(120);
+    EXPECT_NEAR(400.0F, lift.getWorldTransform().getOrigin().x(), 1.0F) << "the limit";
+    EXPECT_NEAR(btRadians(-50), turnOf(plank), 0.05F) << "swung down to its limit";
+}
+
+TEST_F(MapCompilerTest, ObjectsTakeFromTheirLayersWhatTheyDoNotSay) {
+    const SceneBundle bundle = load(
+        mapOf(R"({"id":1,"x":0,"y":0,"width":10,"height":10},)"
+              R"({"id":2,"x":0,"y":0,"width":10,"height":10)" +
+                  with({{"z", -3.0}, {"colour", "#80ff0000"}}) + "}",
+              R"("class":"Scenery","parallaxx":0.5,"parallaxy":0.5,"opacity":0.5,"offsetx":8,)"
+              R"("properties":[{"name":"z","value":-7},{"name":"texture","value":"haze.tga"}],)"));
+    EXPECT_FLOAT_EQ(-7.0F, bundle.objects[0]->graphicsObject->getZ());
+    EXPECT_FLOAT_EQ(-3.0F, bundle.objects[1]->graphicsObject->getZ());
+    EXPECT_FLOAT_EQ(0.5F, polygonOf(bundle, 0).getParallax());
+    EXPECT_FLOAT_EQ(13.0F, polygonOf(bundle, 0).getTransformRef().getOrigin().x());
+    EXPECT_NEAR(0.25F, polygonOf(bundle, 1).getData().colours[3], 0.01F);
+    EXPECT_FLOAT_EQ(1.0F, polygonOf(bundle, 1).getData().colours[0]);
+}
+
+TEST_F(MapCompilerTest, TextureCoordinatesAreThoseOfTheEngine) {
+    const mapc::Outline outline{{-30, -10}, {-20, 15}, {25, 5}};
+    const mapc::Pose pose{{70, -40}, 0.7F};
+    for (const int mode : {0, 1, 2}) {
+        GraphicsObjectData data;
+        for (const mapc::Point& point : outline) {
+            data.vertices.insert(data.vertices.end(), {point.x, point.y});
+            data.colours.insert(data.colours.end(), {1, 1, 1, 1});
+        }
+        data.texcoordMode = mode;
+        TransformGraphicsObject object(pose.origin.x, pose.origin.y, data);
+        object.getTransformRef().getBasis().setEulerZYX(0, 0, pose.angle);
+        object.regenerateTexcoords();
+
+        mapc::Appearance look;
+        look.texcoordMode = static_cast<mapc::TexcoordMode>(mode);
+        const auto texcoords = mapc::mapTexcoords(outline, pose, look, {1, 1});
+        for (std::size_t i = 0; i < outline.size(); ++i) {
+            EXPECT_NEAR(object.getData().texcoords[2 * i], texcoords[i].x, 1e-4F) << mode;
+            EXPECT_NEAR(object.getData().texcoords[2 * i + 1], texcoords[i].y, 1e-4F) << mode;
+        }
+    }
+}
+
+TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
+    const std::string area = R"(,"x":0,"y":0,"width":50,"height":50)";
+    const std::string crate = R"({"id":5,"name":"BOX","type":"Crate")" + area;
+    const std::string concave =
+        R"("polygon":[{"x":0,"y":0},{"x":40,"y":0},{"x":40,"y":40},{"x":30,"y":10}])";
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {R"({"id":5,"name":"BOX","type":"Crat")" + area + "}",
+         "map: object 5 \"BOX\": has the unknown class \"Crat\""},
+        {R"({"id":5)" + area + "}", "object 5: has no class"},
+        {crate + with({{"script", "LOCK KNOWN WORDD"}}) + "}", "the unknown word \"WORDD\""},
+        {crate + with({{"script", "LOCK  KNOWN"}}) + "}", "two blanks"},
+        {crate + with({{"script", "REVERSE LIFT9"}}) + "}",
+         "\"LIFT9\", and no object has that name"},
+        {crate + with({{"mass", "heavy"}}) + "}", "\"mass\" must be a number"},
+        {crate + with({{"mass", 0}}) + "}", "mass above 0"},
+        {crate + with({{"parallax", 0.5}}) + "}", "parallax of 1"},
+        {crate + with({{"colour", "red"}}) + "}", "\"red\" is no colour"},
+        {crate + R"(},{"id":6,"type":"Wall","x":40,"y":0,"width":99,"height":99})",
+         "object 5 \"BOX\": stands in object 6 at rest"},
+        {R"({"id":6,"type":"Wall","x":0,"y":0,"width":99,"height":9})", "thinner than 40"},
+        {R"({"id":6,"type":"Wall","x":-520,"y":-20,"width":99,"height":99})",
+         "STARTPOS\": the character would stand in object 6"},
+        {R"({"id":6,"type":"Wall",)" + concave + "}", "concave"},
+        {R"({"id":6,"type":"Wall","polygon":[{"x":0,"y":0},{"x":9,"y":0},{"x":4,"y":0}]})",
+         "degenerate"},
+        {R"({"id":6,"type":"Wall","polyline":[{"x":0,"y":0},{"x":9,"y":0}]})", "needs an area"},
+        {R"({"id":6,"type":"Hinge","point":true})", "\"a\" must refer to the object that moves"},
+        {R"({"id":6,"type":"Hinge","point":true)" + with({{"a", 77}}) + "}",
+         "object 77, which is not in the level"},
+        {R"({"id":6,"type":"Scenery")" + area + with({{"script", "LOCK KNOWN"}}) + "}",
+         "has no body, which a script needs"},
+        {R"({"id":6,"type":"Scenery")" + area + with({{"parallax", 0.5}}) + "}", "lit slice"},
+        {R"({"id":6,"type":"Scenery")" + area + with({{"sheetColumns", 4}, {"sheetRows", 2}}) + "}",
+         "as many rows as columns"},
+    };
+    for (const auto& [object, complaint] : cases) {
+        EXPECT_THAT(complaintOf(object), HasSubstr(complaint)) << object;
+    }
+    EXPECT_EQ("", compile(R"({"type":"map","layers":[]})"));
+    EXPECT_EQ("map: has no object named STARTPOS", mapc::describe(problems.at(0), "map"));
+}
+
+TEST_F(MapCompilerTest, WhatIsNoMapIsRefusedWithTheReason) {
+    EXPECT_THAT([this] { compile(R"({"type":"map","layers":[)"); },
+                testing::Throws<std::string>(HasSubstr("is no JSON: ")));
+    EXPECT_THAT([this] { compile("[1, 2]"); }, testing::Throws<std::string>("is no Tiled map"));
+    EXPECT_THAT([this] { compile(mapOf(R"({"id":4,"x":"left"})")); },
+                testing::Throws<std::string>("object 4: \"x\" must be a number"));
+    std::string nested;
+    for (int i = 0; i < 1000; ++i) {
+        nested += R"({"type":"group","layers":[)";
+    }
+    EXPECT_ANY_THROW(compile(R"({"type":"map","layers":[)" + nested));
+}
+
+TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
+    const std::string text = compile(
+        mapOf(R"({"id":1,"name":"A BOX","type":"Crate","x":0,"y":0,"width":20,"height":20)" +
+              with({{"script", "DELAY 9 REVERSE A"}, {"health", 5}, {"sheetColumns", 2}}) +
+              R"(},{"id":2,"name":"A","type":"Trigger","x":90,"y":0,"width":20,"height":20})"));
+    const std::string dump = mapc::dumpMap(text);
+    EXPECT_THAT(dump, HasSubstr("objects 3\nobject 0 type 0\n"));
+    EXPECT_THAT(dump, HasSubstr("sheet rows 2 stepU 0.5 stepV 0.5"));
+    EXPECT_THAT(dump, HasSubstr("addition NAME name=A BOX\n"));
+    EXPECT_THAT(dump, HasSubstr("addition DELAY steps=9 counter=9 REVERSE object=A\n"));
+    EXPECT_THAT(dump, HasSubstr("addition HealthAdd value=5\n"));
+    for (std::size_t size = 0; size + 8 < text.size(); size += 7) {
+        EXPECT_THROW(mapc::dumpMap(text.substr(0, size)), std::string) << size;
+    }
+}
+
+TEST_F(MapCompilerTest, TheEditorOffersEveryClassWithTheValuesItHas) {
+    const auto project = nlohmann::json::parse(readFile(TOLMERE_CONTENT "/tolmere.tiled-project"));
+    for (const mapc::ObjectClass& row : mapc::objectClasses()) {
+        std::map<std::string, nlohmann::json> members;
+        for (const auto& type : project["propertyTypes"]) {
+            if (type["name"] == row.name) {
+                for (const auto& member : type["members"]) {
+                    members[member["name"]] = member["value"];
+                }
+            }
+        }
+        ASSERT_FALSE(members.empty()) << row.name;
+        const auto expectSame = [&](const char* name, const nlohmann::json& value) {
+            if (members.contains(name)) {
+                EXPECT_EQ(value, members[name]) << row.name << " " << name;
+            }
+        };
+        expectSame("texture", row.texture);
+        expectSame("texcoordMode", static_cast<int>(row.texcoordMode));
+        expectSame("z", std::round(row.z * 1000.0) / 1000.0);
+        expectSame("mass", row.mass);
+        expectSame("friction", std::round(row.friction * 1000.0) / 1000.0);
+        expectSame("restitution", std::round(row.restitution * 1000.0) / 1000.0);
+    }
+}
