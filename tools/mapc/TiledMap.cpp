@@ -79,6 +79,12 @@ Properties readProperties(const json& owner) {
     return result;
 }
 
+/// Layers have a class of their own in newer versions of Tiled, and a property of that name in all.
+std::string layerClassOf(const json& layer) {
+    const std::string own = word(layer, "class");
+    return own.empty() ? readProperties(layer).text("class", "") : own;
+}
+
 TiledShape shapeOf(const json& object) {
     if (object.contains("polygon")) {
         return TiledShape::polygon;
@@ -110,7 +116,7 @@ struct LayerContext {
         inner.parallaxX *= number(layer, "parallaxx", 1.0F);
         inner.parallaxY *= number(layer, "parallaxy", 1.0F);
         inner.opacity *= number(layer, "opacity", 1.0F);
-        const std::string layerClass = word(layer, "class");
+        const std::string layerClass = layerClassOf(layer);
         if (layerClass == compoundClass) {
             inner.compoundLayer = idOf(layer);
         } else if (!layerClass.empty()) {
@@ -152,7 +158,7 @@ void readLayers(const json& layers, const LayerContext& outer, int depth, TiledM
         throw std::string("groups of layers are nested too deeply");
     }
     for (const json& layer : layers) {
-        if (word(layer, "class") == notesClass) {
+        if (layerClassOf(layer) == notesClass) {
             continue;
         }
         const LayerContext context = outer.within(layer);
