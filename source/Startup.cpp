@@ -69,11 +69,23 @@ void chooseSize() {
     }
 }
 
+/// A smaller window could not hold the light map. The setting stays as the user wrote it.
+void refuseSmallSize() {
+    if (windowWidth < lightMapSize || windowHeight < lightMapSize) {
+        std::cout << "a window of " << windowWidth << " by " << windowHeight
+                  << " is too small; it opens with " << usualSize.width << " by "
+                  << usualSize.height << '\n';
+        windowWidth = usualSize.width;
+        windowHeight = usualSize.height;
+    }
+}
+
 void openWindow() {
     platform::Window& window = platform::window();
     chooseSize();
+    refuseSmallSize();
     const bool fullscreen = windowMode == WindowMode::fullscreen;
-    if (!window.open({windowWidth, windowHeight, fullscreen, fsaaSamples})) {
+    if (!window.open({windowWidth, windowHeight, fullscreen, fsaaSamples, lightMapSize})) {
         std::cerr << "no display: " << window.failure() << std::endl;
         std::getchar(); // keeps a console that opened with the program readable
         std::exit(-1);

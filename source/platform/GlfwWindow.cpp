@@ -75,6 +75,8 @@ bool GlfwWindow::open(const WindowRequest& request) {
     if (handle == nullptr) {
         return false;
     }
+    glfwSetWindowSizeLimits(handle, request.smallestSide, request.smallestSide, GLFW_DONT_CARE,
+                            GLFW_DONT_CARE);
     glfwMakeContextCurrent(handle);
     glfwSetInputMode(handle, GLFW_STICKY_KEYS, GLFW_FALSE);
     glfwSetInputMode(handle, GLFW_STICKY_MOUSE_BUTTONS, GLFW_TRUE);

@@ -43,7 +43,8 @@ struct WindowRequest {
     int width;
     int height;
     bool fullscreen;
-    int samples; ///< Multisampling; 0 is off.
+    int samples;          ///< Multisampling; 0 is off.
+    int smallestSide = 1; ///< Pixels that the user must leave it on each side.
 };
 
 /// Receivers of events. All are called inside `Window::pollEvents`; an empty one is skipped. Held

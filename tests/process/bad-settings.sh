@@ -31,7 +31,9 @@ quit_by_keys
 sed 's/^WINDOW_WIDTH .*/WINDOW_WIDTH 400\r/; s/^WINDOW_HEIGHT .*/WINDOW_HEIGHT 300\r/' "$WORK/good" >"$GAME/config.txt"
 start_game
 wait_window
+grep -q 'a window of 400 by 300 is too small' "$WORK/out" || fail "the small window was not told"
 quit_by_keys
+grep -q 'WINDOW_WIDTH 400' "$GAME/config.txt" || fail "the size in the settings was changed"
 
 sed 's/^WINDOW_WIDTH .*/WINDOW_WIDTH -1\r/' "$WORK/good" >"$GAME/config.txt"
 start_game
