@@ -8,6 +8,7 @@
 #include "graphicsModule/GraphicsModule.h" // upward: `niceEffects` is set with the other settings
 #include "graphicsModule/TextureStore.h"   // upward: the store lives as long as the manager
 #include "platform/Window.h"
+#include "soundModule/SoundManager.h" // upward: music goes on while no step runs
 
 #include <algorithm>
 #include <iostream>
@@ -107,6 +108,9 @@ void ModuleManager::tick() {
             module->accumulator += frameTime;
             runDueUpdates(*module);
         }
+    }
+    if (SoundManager* sounds = existingService<SoundManager>()) {
+        sounds->tick();
     }
 }
 

@@ -29,7 +29,8 @@ public:
     /// Runs ticks until the window closes, left Alt and F4 are down, or `running` is false.
     void runLoop();
 
-    /// Charges the time since the previous tick to every active module and runs those that are due.
+    /// Charges the time since the previous tick to every active module and runs those that are due;
+    /// then the music takes its turn.
     void tick();
 
     bool running = true;             ///< The loop goes on while this is true.

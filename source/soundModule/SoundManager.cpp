@@ -1,10 +1,16 @@
 #include "SoundManager.h"
 
+#include "Files.h"
+#include "ProcessValues.h"
+#include "Random.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -14,11 +20,65 @@ constexpr float distanceBend = 0.001F;      // share of the squared distance on 
 constexpr float shortestFearPeriod = 60.0F; // steps
 constexpr float calmFearPeriod = 300.0F;    // steps; no breath is heard
 constexpr int loudestFear = 40;
+constexpr int shortestPause = 30; // steps between two breaths
+constexpr int longestPause = 300; // steps between two breaths
+constexpr int breathSounds = 11;
+constexpr int musicFade = 2000; // milliseconds
+constexpr auto bodyOwner = static_cast<SoundOwner>(-1);
+
+const btVector3 everywhere(0.0F, 0.0F, 0.0F);
+
+std::uint8_t mixed(std::uint8_t volume, std::uint8_t byDistance) {
+    return static_cast<std::uint8_t>(static_cast<float>(volume) / fullVolume *
+                                     static_cast<float>(byDistance));
+}
 
 } // namespace
 
 SoundManager& soundManager() {
     return service<SoundManager>();
+}
+
+SoundManager::SoundManager() : mixer(takeMixer()) {
+    openMixer();
+    loadSounds();
+    loadMusic();
+}
+
+void SoundManager::openMixer() {
+    if (!mixer->initialise()) {
+        report("Unable to initialize SDL");
+    }
+    if (!mixer->open()) {
+        report("Unable to initialize audio");
+        std::exit(1);
+    }
+}
+
+void SoundManager::loadSounds() {
+    for (const std::string& name : listFiles(dataPrefix + "sound/*.wav")) {
+        const SoundId sound = mixer->loadSound(dataPrefix + "sound/" + name);
+        if (sound == SoundId::none) {
+            report("Unable to load WAV file");
+        } else {
+            soundsByName.emplace(name, sound);
+        }
+    }
+}
+
+void SoundManager::loadMusic() {
+    for (const std::string& name : listFiles(dataPrefix + "music/*.???")) {
+        const MusicId music = mixer->loadMusic(dataPrefix + "music/" + name);
+        if (music == MusicId::none) {
+            report("Unable to load WAV file");
+        } else {
+            musicByName.emplace(name, music);
+        }
+    }
+}
+
+void SoundManager::report(const char* message) const {
+    std::fprintf(stderr, "%s: %s\n", message, mixer->error().c_str());
 }
 
 std::uint8_t SoundManager::distanceVolume(const btVector3& position) const {
@@ -36,22 +96,87 @@ std::uint8_t SoundManager::distanceVolume(const btVector3& position) const {
     return static_cast<std::uint8_t>(fullVolume - fullVolume * (bent / hearingLimit));
 }
 
-// The mixer stands behind these; without one all is silent, and the game goes on all the same.
+void SoundManager::play(const std::string& name, const btVector3& position, SoundOwner owner,
+                        std::uint8_t volume, bool once) {
+    const SoundId sound = findSound(name);
+    if (sound == SoundId::none) {
+        return;
+    }
+    const std::uint8_t heard = mixed(volume, distanceVolume(position));
+    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+        if (holds(channel, owner, sound)) {
+            heard != 0 ? mixer->setVolume(channel, heard) : halt(channel);
+            return;
+        }
+    }
+    if (heard == 0) {
+        return;
+    }
+    const int channel = start(sound, heard, !once);
+    if (channel != Mixer::noChannel) {
+        tenants[static_cast<std::size_t>(channel)] = {owner, sound};
+    }
+}
 
-void SoundManager::play(const std::string&, const btVector3&, SoundOwner, std::uint8_t, bool) {}
+void SoundManager::playFlat(const std::string& name, std::uint8_t volume) {
+    const SoundId sound = findSound(name);
+    if (sound != SoundId::none) {
+        start(sound, volume, false);
+    }
+}
 
-void SoundManager::playFlat(const std::string&, std::uint8_t) {}
+void SoundManager::playAt(const std::string& name, const btVector3& position) {
+    const std::uint8_t volume = distanceVolume(position);
+    if (volume != 0) {
+        playFlat(name, volume);
+    }
+}
 
-void SoundManager::playAt(const std::string&, const btVector3&) {}
+void SoundManager::stop(const std::string& name, SoundOwner owner) {
+    const SoundId sound = findSound(name);
+    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+        if (holds(channel, owner, sound)) {
+            halt(channel);
+        }
+    }
+}
 
-void SoundManager::stop(const std::string&, SoundOwner) {}
+void SoundManager::stopAll(const std::string& name) {
+    const SoundId sound = findSound(name);
+    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+        if (carries(channel, sound)) {
+            mixer->halt(channel);
+        }
+    }
+}
 
-void SoundManager::stopAll(const std::string&) {}
-
-void SoundManager::stopOwner(SoundOwner) {}
+void SoundManager::stopOwner(SoundOwner owner) {
+    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+        if (holds(channel, owner, tenants[static_cast<std::size_t>(channel)].sound)) {
+            halt(channel);
+        }
+    }
+}
 
 void SoundManager::playMusic(const std::string& name) {
+    if (name == currentMusic && mixer->isMusicPlaying()) {
+        return;
+    }
+    if (name.empty()) {
+        currentMusic.clear();
+        mixer->fadeOutMusic(musicFade);
+        return;
+    }
+    const auto found = musicByName.find(name);
+    if (found == musicByName.end()) {
+        return;
+    }
     currentMusic = name;
+    if (mixer->isMusicPlaying()) {
+        mixer->fadeOutMusic(musicFade); // its end starts the new one, see `tick`
+    } else if (!mixer->fadeInMusic(found->second, musicFade)) {
+        report("Unable to play sound");
+    }
 }
 
 void SoundManager::addFear(float periodDelta, int levelDelta) {
@@ -59,4 +184,62 @@ void SoundManager::addFear(float periodDelta, int levelDelta) {
     fearLevel = std::clamp(fearLevel + levelDelta, 0, loudestFear);
 }
 
-void SoundManager::update() {}
+void SoundManager::update() {
+    beatHeart();
+    if (fearPeriod < calmFearPeriod && --fearCountdown <= 0) {
+        breathe();
+    }
+}
+
+void SoundManager::tick() {
+    if (mixer->takeMusicFinished()) {
+        playMusic(currentMusic);
+    }
+}
+
+SoundId SoundManager::findSound(const std::string& name) const {
+    const auto found = soundsByName.find(name);
+    return found == soundsByName.end() ? SoundId::none : found->second;
+}
+
+/// Whether the sound is running on the channel; never for an unknown sound.
+bool SoundManager::carries(int channel, SoundId sound) const {
+    return sound != SoundId::none && mixer->soundOn(channel) == sound && mixer->isPlaying(channel);
+}
+
+/// Whether the channel runs the sound for the owner.
+bool SoundManager::holds(int channel, SoundOwner owner, SoundId sound) const {
+    return tenants[static_cast<std::size_t>(channel)].owner == owner && carries(channel, sound);
+}
+
+int SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver) {
+    const int channel = mixer->play(sound, forEver);
+    if (channel == Mixer::noChannel) {
+        report("Unable to play sound");
+    } else {
+        mixer->setVolume(channel, volume);
+    }
+    return channel;
+}
+
+void SoundManager::halt(int channel) {
+    mixer->halt(channel);
+    tenants[static_cast<std::size_t>(channel)] = {};
+}
+
+void SoundManager::beatHeart() {
+    if (heartCount == 0) {
+        stopAll("heart.wav");
+    } else if (heartVolume != 0.0F) {
+        const float volume = std::clamp(heartVolume, 0.0F, fullVolume);
+        play("heart.wav", everywhere, bodyOwner, static_cast<std::uint8_t>(volume), false);
+    }
+}
+
+/// Draws the pause up to the next breath first, then which of the breaths is heard now.
+void SoundManager::breathe() {
+    const int range = static_cast<int>(std::max(fearPeriod, shortestFearPeriod));
+    fearCountdown = std::clamp(drawRandom() % range + shortestPause, shortestPause, longestPause);
+    const std::string name = "breath" + std::to_string(drawRandom() % breathSounds) + ".wav";
+    play(name, everywhere, bodyOwner, static_cast<std::uint8_t>(fearLevel), true);
+}

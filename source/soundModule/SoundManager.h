@@ -1,10 +1,14 @@
 #pragma once
 
+#include "Mixer.h"
 #include "Service.h"
 
 #include <LinearMath/btVector3.h>
 
+#include <array>
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <string>
 
 /// Who a tracked sound belongs to: any word that identifies the caller, compared and never
@@ -12,18 +16,22 @@
 using SoundOwner = std::uintptr_t;
 
 /// The one place that talks to the mixer. Volumes are 0 to 128, positions world units; a position
-/// of exactly (0, 0, 0) is not positional.
+/// of exactly (0, 0, 0) is not positional. Sounds and music go by their file names, "heart.wav";
+/// a name that nothing was loaded for is silently nothing.
 class SoundManager {
     ServiceSlot<SoundManager> slot{this};
 
 public:
-    SoundManager() = default;
+    /// Opens the mixer (see `setMixer`) and loads all of `sound/` and `music/`. A file that cannot
+    /// be played is reported and left out; without an audio device the process ends.
+    SoundManager();
     SoundManager(const SoundManager&) = delete;
     SoundManager& operator=(const SoundManager&) = delete;
 
     /// Volume by distance from the camera, 0 to 128.
     std::uint8_t distanceVolume(const btVector3& position) const;
-    /// A sound that belongs to an owner; asking again while it runs changes its volume.
+    /// A sound that belongs to an owner; asking again while it runs changes its volume, and a
+    /// volume of 0 ends it.
     void play(const std::string& name, const btVector3& position, SoundOwner owner,
               std::uint8_t volume, bool once);
     /// A one-shot without owner and distance.
@@ -39,12 +47,41 @@ public:
     void addFear(float periodDelta, int levelDelta);
     /// Once a step, after the scene objects.
     void update();
+    /// Once a tick of the loop, also while no step runs: starts the wanted music when the former
+    /// one has faded out.
+    void tick();
 
     int heartCount = 0;        ///< Requests of the heartbeat in this step.
     float heartVolume = 0.0F;  ///< 0 to 128.
     int fearLevel = 0;         ///< Volume of the next breath, 0 to 40.
     float fearPeriod = 300.0F; ///< Range of the pause between breaths, steps, 60 to 300.
     std::string currentMusic;  ///< What plays or is about to play.
+
+private:
+    /// What `play` last put on a channel. Holds only while the channel still runs that sound:
+    /// sounds end, and one-shots without owner take free channels too.
+    struct Tenant {
+        SoundOwner owner = 0;
+        SoundId sound = SoundId::none;
+    };
+
+    void openMixer();
+    void loadSounds();
+    void loadMusic();
+    void report(const char* message) const;
+    SoundId findSound(const std::string& name) const;
+    bool carries(int channel, SoundId sound) const;
+    bool holds(int channel, SoundOwner owner, SoundId sound) const;
+    int start(SoundId sound, std::uint8_t volume, bool forEver);
+    void halt(int channel);
+    void beatHeart();
+    void breathe();
+
+    std::unique_ptr<Mixer> mixer; // never null
+    std::map<std::string, SoundId> soundsByName;
+    std::map<std::string, MusicId> musicByName;
+    std::array<Tenant, Mixer::channelCount> tenants;
+    int fearCountdown = 0; // steps to the next breath
 };
 
 SoundManager& soundManager();

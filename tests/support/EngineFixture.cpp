@@ -88,12 +88,16 @@ void EngineFixture::SetUp() {
     moduleManager();
     ASSERT_TRUE(window->open({windowWidth, windowHeight, false, 0})) << window->failure();
     setPainter(std::make_unique<Painter>(makeDevice()));
+    auto silent = std::make_unique<SilentMixer>();
+    mixer = silent.get();
+    setMixer(std::move(silent));
     createServices();
     sceneManager();
 }
 
 void EngineFixture::TearDown() {
     deleteServices();
+    setMixer(nullptr);
     platform::setWindow(nullptr);
     setSteam(nullptr);
     resetProcessValues();
@@ -114,11 +118,13 @@ void EngineFixture::frame(int count) {
 }
 
 void EngineFixture::prepareDirectory() {
-    for (const char* folder : {"data", "maps", "save"}) {
+    for (const char* folder : {"data", "maps", "save", "sound", "music"}) {
         std::filesystem::create_directory(folder);
     }
     directory.write("config.txt", settings);
     directory.write("lang_eng.txt", numberedLines());
+    directory.write("sound/click.wav", "");
+    directory.write("music/theme.ogg", "");
 }
 
 std::unique_ptr<PaintDevice> EngineFixture::makeDevice() {

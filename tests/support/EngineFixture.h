@@ -2,6 +2,7 @@
 
 #include "RecordingDevice.h"
 #include "ScriptedWindow.h"
+#include "SilentMixer.h"
 #include "TempDirectory.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +12,9 @@
 
 /// The whole engine, set up in the order of the program and without its story, in a directory of
 /// its own: the settings at their usual values with CR LF ends, a language file whose line n is
-/// "line n", and empty folders for maps, textures and saves. Nothing is drawn and no time passes
-/// but by the test. Each test finds the process as it was at its start.
+/// "line n", empty folders for maps, textures and saves, and a sound and a piece of music that no
+/// device plays. Nothing is drawn and no time passes but by the test. Each test finds the process
+/// as it was at its start.
 class EngineFixture : public testing::Test {
 protected:
     EngineFixture();
@@ -38,4 +40,5 @@ protected:
     std::string startDirectory;        ///< Where the test program was started; absolute.
     ScriptedWindow* window = nullptr;  ///< Owned by the process.
     RecordingDevice* device = nullptr; ///< Owned by the painter; null if `makeDevice` made another.
+    SilentMixer* mixer = nullptr;      ///< Owned by the sound manager.
 };

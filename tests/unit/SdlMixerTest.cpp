@@ -1,0 +1,156 @@
+#include "soundModule/SdlMixer.h"
+
+#include "support/TempDirectory.h"
+
+#include "ProcessValues.h"
+#include "soundModule/SoundManager.h"
+
+#include <SDL.h>
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <thread>
+
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+
+std::string bytes(unsigned value, int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += static_cast<char>(value >> (8 * i) & 0xFFU);
+    }
+    return text;
+}
+
+/// A quiet WAV file of that many samples.
+std::string makeWav(unsigned rate, unsigned channels, unsigned bits, unsigned samples) {
+    const unsigned frame = channels * bits / 8;
+    const std::string data(static_cast<std::size_t>(samples) * frame, bits == 8 ? '\x80' : '\0');
+    return "RIFF" + bytes(36 + static_cast<unsigned>(data.size()), 4) + "WAVEfmt " + bytes(16, 4) +
+           bytes(1, 2) + bytes(channels, 2) + bytes(rate, 4) + bytes(rate * frame, 4) +
+           bytes(frame, 2) + bytes(bits, 2) + "data" +
+           bytes(static_cast<unsigned>(data.size()), 4) + data;
+}
+
+/// The audio library on a device that swallows all, in real time.
+class SdlMixerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        setenv("SDL_AUDIODRIVER", "dummy", 1);
+        dataPrefix = directory.path() + "/";
+    }
+    void TearDown() override {
+        delete existingService<SoundManager>();
+        SDL_Quit(); // the next start chooses the driver anew
+        dataPrefix.clear();
+    }
+
+    void makeFolders() const {
+        std::filesystem::create_directory(directory.file("sound"));
+        std::filesystem::create_directory(directory.file("music"));
+    }
+
+    /// What the manager says while it loads.
+    static std::string complaintsOfLoading() {
+        testing::internal::CaptureStderr();
+        soundManager();
+        return testing::internal::GetCapturedStderr();
+    }
+
+    /// False if it does not come true in some seconds.
+    template <class Condition>
+    static bool comesTrue(Condition condition) {
+        for (int i = 0; i < 500; ++i) {
+            if (condition()) {
+                return true;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return false;
+    }
+
+    TempDirectory directory;
+};
+
+} // namespace
+
+TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkippedAndOddOnesPlay) {
+    makeFolders();
+    const std::string good = makeWav(44100, 2, 16, 500);
+    directory.write("sound/good.wav", good);
+    directory.write("sound/eight.wav", makeWav(8000, 1, 8, 500));
+    directory.write("sound/fast.wav", makeWav(48000, 1, 16, 500));
+    directory.write("sound/cut.wav", good.substr(0, 600));
+    directory.write("sound/empty.wav", "");
+    directory.write("sound/silent.wav", makeWav(44100, 2, 16, 0));
+    directory.write("sound/short.wav", good.substr(0, 30));
+    directory.write("sound/text.wav", "not a sound at all");
+    directory.write("sound/lying.wav", good.substr(0, 40) + "\xFF\xFF\xFF\xFF" + good.substr(44));
+    directory.write("sound/noChannels.wav", makeWav(44100, 0, 16, 4));
+    directory.write("music/empty.ogg", "");
+    directory.write("music/text.ogg", "OggS but no more");
+    directory.write("music/good.wav", good);
+    std::filesystem::create_directory(directory.file("sound/folder.wav"));
+
+    EXPECT_THAT(complaintsOfLoading(),
+                AllOf(HasSubstr("Unable to load WAV file: "), HasSubstr("sound/empty.wav: "),
+                      HasSubstr("silent.wav: no samples\n"), HasSubstr("short.wav: "),
+                      HasSubstr("text.wav: "), HasSubstr("noChannels.wav: "),
+                      HasSubstr("folder.wav: "), HasSubstr("music/empty.ogg: "),
+                      HasSubstr("text.ogg: "), Not(HasSubstr("good")), Not(HasSubstr("eight")),
+                      Not(HasSubstr("fast"))));
+    testing::internal::CaptureStderr();
+    for (const char* name : {"good", "eight", "fast", "cut", "empty", "silent", "lying"}) {
+        soundManager().playFlat(std::string(name) + ".wav", 128);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(SdlMixerTest, WithoutFoldersTheGameIsMerelySilent) {
+    EXPECT_EQ(complaintsOfLoading(), "Error opening directory\nError opening directory\n");
+    soundManager().playFlat("click.wav", 128);
+    soundManager().playMusic("theme.ogg");
+    soundManager().stopAll("roll.wav");
+}
+
+TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselvesAndSayWhatTheyPlayed) {
+    directory.write("sound.wav", makeWav(44100, 2, 16, 4410));
+    const std::unique_ptr<Mixer> mixer = makeSdlMixer();
+    ASSERT_TRUE(mixer->initialise());
+    ASSERT_TRUE(mixer->open());
+    const SoundId sound = mixer->loadSound(directory.file("sound.wav"));
+    const MusicId music = mixer->loadMusic(directory.file("sound.wav"));
+    EXPECT_EQ(mixer->loadSound(directory.file("none.wav")), SoundId::none);
+
+    EXPECT_EQ(mixer->soundOn(0), SoundId::none);
+    EXPECT_EQ(mixer->play(sound, false), 0);
+    EXPECT_EQ(mixer->play(sound, true), 1);
+    EXPECT_TRUE(mixer->isPlaying(0));
+    EXPECT_TRUE(comesTrue([&] { return !mixer->isPlaying(0); })) << "played once";
+    EXPECT_TRUE(mixer->isPlaying(1)) << "for ever";
+    EXPECT_EQ(mixer->soundOn(0), sound) << "the last one";
+    mixer->halt(1);
+    EXPECT_FALSE(mixer->isPlaying(1));
+
+    ASSERT_TRUE(mixer->fadeInMusic(music, 20));
+    EXPECT_FALSE(mixer->takeMusicFinished());
+    mixer->fadeOutMusic(50);
+    EXPECT_TRUE(comesTrue([&] { return !mixer->isMusicPlaying(); }));
+    EXPECT_TRUE(comesTrue([&] { return mixer->takeMusicFinished(); }));
+    EXPECT_FALSE(mixer->takeMusicFinished()) << "told once";
+    ASSERT_TRUE(mixer->fadeInMusic(music, 20)); // still running when all is closed
+}
+
+TEST_F(SdlMixerTest, WithoutAnAudioDeviceTheProcessEnds) {
+    EXPECT_EXIT(
+        {
+            setenv("SDL_AUDIODRIVER", "nothing of that name", 1);
+            soundManager();
+        },
+        testing::ExitedWithCode(1), "Unable to initialize audio: ");
+}
