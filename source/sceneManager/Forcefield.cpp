@@ -1,27 +1,15 @@
 #include "Forcefield.h"
 
+#include "So_Addons/Bodies.h"
 #include "So_Addons/Contacts.h"
 #include "TextStream.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
 
-#include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
-namespace {
-
-constexpr float reach = 0.1F; // world units between the shapes within which the field acts
-
-bool isWithinReach(const btPersistentManifold& manifold) {
-    for (int i = 0; i < manifold.getNumContacts(); ++i) {
-        if (manifold.getContactPoint(i).m_distance1 <= reach) {
-            return true;
-        }
-    }
-    return false;
-}
-
-} // namespace
+/// World units between the shapes within which the field acts.
+static constexpr float reach = 0.1F;
 
 Forcefield::Forcefield(const SceneParts& parts, float forceX, float forceY)
     : SceneObject(parts),
@@ -43,21 +31,13 @@ void Forcefield::update() {
     if (force.isZero()) {
         return;
     }
+    const btVector3 acceleration = force * (physicsModule().gravityStrength * 10.0F);
     for (const btPersistentManifold* manifold : manifoldsOf(this)) {
         const Contact contact = contactOf(this, *manifold);
-        if (contact.other != nullptr && isWithinReach(*manifold)) {
-            push(*contact.other);
+        if (contact.comesWithin(reach)) {
+            accelerate(contact.other, acceleration);
         }
     }
-}
-
-void Forcefield::push(const SceneObject& other) const {
-    btRigidBody& body = *other.physicsObject->body;
-    if (body.isStaticObject() || body.getInvMass() == 0.0F) {
-        return;
-    }
-    const float mass = 1.0F / body.getInvMass();
-    body.applyCentralForce(force * (physicsModule().gravityStrength * 10.0F * mass));
 }
 
 SceneObject* Forcefield::load(TextReader& stream, const SceneParts& parts) {

@@ -17,7 +17,4 @@ public:
     static SceneObject* load(TextReader& stream, const SceneParts& parts);
 
     btVector3 force;
-
-private:
-    void push(const SceneObject& other) const;
 };

@@ -57,6 +57,8 @@ public:
 
     /// Queues a spoken line, shown above the character for that many steps (at least 1).
     void say(const std::string& line, int frames);
+    /// Whether a line shows or waits, and in the step after the last one.
+    bool isSpeaking() const { return sayTimer >= 0; }
     /// Drops all lines, the one that shows included.
     void silence();
     /// Walks by itself until nearer than 9 units to the point.

@@ -43,16 +43,26 @@ TEST(ChainRecord, StateIsReadBack) {
 
 TEST(ChainRecord, DamageIsToldAndLeavesNothingBehind) {
     for (const char* record : {
-             "",              // nothing
-             "9",             // cut in a link
-             "9 0 1",         // cut behind has-next
-             "9 2 0 ",        // no bool
-             "10 5 x 0 ",     // no number
-             "6 -1 door ",    // impossible lengths
-             "6 1000 door ",  //
-             "9 0 1 2 50 ",   // hit points inside a chain
-             "33 ", "-1 ",    // no such type
-             "0 ", "17 0 0 ", // types without a reader
+             "",             // nothing
+             "9",            // cut in a link
+             "9 0 1",        // cut behind has-next
+             "9 2 0 ",       // no bool
+             "10 5 x 0 ",    // no number
+             "6 -1 door ",   // impossible lengths
+             "6 1000 door ", //
+             "9 0 1 2 50 ",  // hit points inside a chain
+             "33 ",
+             "-1 ",          // no such type
+             "17 0 0 ",      // a type without a reader
+             "0 1 2 0 ",     // a dialog's flag that is no flag
+             "0 9 0 0 1 a ", // more entries than the text can hold
+             "0 1 0 0 9 a 5 ",
+             "0 1 0 0 -1 a 5 ",
+             "9 0 1 0 0 0 0 ", // nothing inside a chain
+             "1 5 much ",
+             "1 5000000000 0 ",
+             "2 x ",
+             "15 nan ",
          }) {
         TextReader stream(record);
         EXPECT_TRUE(isCorruption(failureOf([&stream] { delete readAddition(stream); }))) << record;

@@ -149,6 +149,23 @@ TEST_F(MapCompilerTest, WhatHasNoSolidBodyIsDrawnFeltOrNamed) {
     EXPECT_EQ(0, bundle.objects[4]->physicsObject->kind) << "a marker meets nothing";
 }
 
+TEST_F(MapCompilerTest, PropertiesGiveABodyItsBehaviour) {
+    const SceneBundle bundle =
+        load(mapOf(R"({"id":1,"type":"Crate","x":0,"y":0,"width":20,"height":20)" +
+                   with({{"health", 5},
+                         {"damage", 7},
+                         {"damageThreshold", 2.5},
+                         {"forcePower", -0.5},
+                         {"dialog", "180 qq120\r\n\n  60 What was that? "},
+                         {"dialogOnce", true}}) +
+                   "}"));
+    TextWriter stream;
+    for (const So_Addition* addition : bundle.objects[0]->additions) {
+        addition->save(stream);
+    }
+    EXPECT_EQ("2 5 1 7 2.5 15 -0.5 0 2 1 0 5 qq120 180 14 What was that? 60 ", stream.text());
+}
+
 TEST_F(MapCompilerTest, ACompoundTurnsAboutItsCentreOfMass) {
     const std::string layer = R"("class":"Compound","properties":[{"name":"mass","value":2.5}],)";
     const std::string parts =
@@ -268,6 +285,16 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
          "object 77, which is not in the level"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"script", "LOCK KNOWN"}}) + "}",
          "has no body, which a script needs"},
+        {R"({"id":6,"type":"Scenery")" + area + with({{"dialog", "60 hm"}}) + "}",
+         "has no body, which a dialog needs"},
+        {crate + with({{"dialog", "60 hm\nqq5"}}) + "}",
+         "the line \"qq5\": it needs steps above 0"},
+        {crate + with({{"dialog", "0 hm"}}) + "}", "it needs steps above 0"},
+        {crate + with({{"dialog", "60"}}) + "}", "it needs steps above 0"},
+        {crate + with({{"dialog", "60 qq5 apples"}}) + "}", "qq needs the number"},
+        {crate + with({{"dialog", "60 qq0"}}) + "}", "qq needs the number"},
+        {crate + with({{"dialog", "60 \u0142"}}) + "}", "letters with marks belong"},
+        {crate + with({{"forcePower", "much"}}) + "}", "\"forcePower\" must be a number"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"parallax", 0.5}}) + "}", "lit slice"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"sheetColumns", 4}, {"sheetRows", 2}}) + "}",
          "as many rows as columns"},
@@ -295,7 +322,10 @@ TEST_F(MapCompilerTest, WhatIsNoMapIsRefusedWithTheReason) {
 TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
     const std::string text = compile(
         mapOf(R"({"id":1,"name":"A BOX","type":"Crate","x":0,"y":0,"width":20,"height":20)" +
-              with({{"script", "DELAY 9 REVERSE A"}, {"health", 5}, {"sheetColumns", 2}}) +
+              with({{"script", "DELAY 9 REVERSE A"},
+                    {"health", 5},
+                    {"dialog", "60 hm"},
+                    {"sheetColumns", 2}}) +
               R"(},{"id":2,"name":"A","type":"Trigger","x":90,"y":0,"width":20,"height":20})"));
     const std::string dump = mapc::dumpMap(text);
     EXPECT_THAT(dump, HasSubstr("objects 3\nobject 0 type 0\n"));
@@ -303,6 +333,7 @@ TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
     EXPECT_THAT(dump, HasSubstr("addition NAME name=A BOX\n"));
     EXPECT_THAT(dump, HasSubstr("addition DELAY steps=9 counter=9 REVERSE object=A\n"));
     EXPECT_THAT(dump, HasSubstr("addition HealthAdd value=5\n"));
+    EXPECT_THAT(dump, HasSubstr("addition DialogAdd once=0 locked=0 text=hm steps=60\n"));
     for (std::size_t size = 0; size + 8 < text.size(); size += 7) {
         EXPECT_THROW(mapc::dumpMap(text.substr(0, size)), std::string) << size;
     }
@@ -328,6 +359,12 @@ TEST_F(MapCompilerTest, TheEditorOffersEveryClassWithTheValuesItHas) {
         expectSame("texture", row.texture);
         expectSame("texcoordMode", static_cast<int>(row.texcoordMode));
         expectSame("z", std::round(row.z * 1000.0) / 1000.0);
+        for (const char* behaviour : {"health", "damage", "damageThreshold", "forcePower"}) {
+            expectSame(behaviour, 0);
+        }
+        expectSame("dialog", "");
+        expectSame("dialogOnce", false);
+        expectSame("dialogLocked", false);
         expectSame("mass", row.mass);
         expectSame("friction", std::round(row.friction * 1000.0) / 1000.0);
         expectSame("restitution", std::round(row.restitution * 1000.0) / 1000.0);

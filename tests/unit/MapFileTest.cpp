@@ -49,6 +49,10 @@ const std::string everyWord =
     "-O SQUEAK a b CREAK c d MOVSOUND a.wav -V 3 SOUNDSOURCE b.wav VSOUND c.wav -V 4 SCRATCH s "
     "NAME door";
 
+/// A name and all that stands beside chains.
+const std::string namedWithAll =
+    "5 6 5 named 0 2 1 0 5 qq120 60 10 Who's that 90 1 101 0.5 2 30 15 -0.25 ";
+
 std::string chainRecord() {
     const std::unique_ptr<CallbackAdd> chain(parseScript(everyWord));
     TextWriter writer;
@@ -62,7 +66,7 @@ std::string everyRecord() {
            "-1 " + group + noBody + "0 " +              // 1
            "0 " + mesh + box + "1 " + chainRecord() +   // 2
            "0 " + animated + disc + "0 " +              // 3
-           "0 " + group + hull + "1 6 5 named " +       // 4
+           "0 " + group + hull + namedWithAll +         // 4
            "1 " + bound + swimmer + "0 " + statistics + // 5: a character
            "2 " + bound + compound + "0 2 -7 8 9 10 " + // 6: with marks
            "3 " + bound + passable + "0 0.5 1 " +       // 7: a force field

@@ -2,6 +2,7 @@
 
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/PhysicsGraphicsObject.h"
+#include "graphicsModule/Text.h"
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
@@ -44,6 +45,17 @@ inline float alphaOf(const GraphicsObject& object) {
 
 inline const btVector3& originOf(const SceneObject& object) {
     return object.physicsObject->body->getWorldTransform().getOrigin();
+}
+
+/// The lines that hang in the scene, one behind the other.
+inline std::string shownLine() {
+    std::string line;
+    for (const GraphicsObject* object : graphicsModule().getObjects()) {
+        if (const auto* text = dynamic_cast<const Text*>(object)) {
+            line += text->getText();
+        }
+    }
+    return line;
 }
 
 /// Runs what it is given once a step, and tells when it dies.

@@ -3,7 +3,6 @@
 #include "PhysicsBodies.h"
 #include "TextStream.h"
 #include "graphicsModule/GraphicsModule.h"
-#include "graphicsModule/Text.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/EqItem.h"
 #include "sceneManager/Equipment.h"
@@ -52,16 +51,6 @@ protected:
             apex = std::max(apex, place().y());
         }
         return apex;
-    }
-
-    static std::string shownLine() {
-        std::string line;
-        for (const GraphicsObject* object : graphicsModule().getObjects()) {
-            if (const auto* text = dynamic_cast<const Text*>(object)) {
-                line += text->getText();
-            }
-        }
-        return line;
     }
 
     SceneObject* floor = nullptr;

@@ -72,6 +72,18 @@ struct Damage {
     float threshold = 0.0F;
 };
 
+struct DialogLine {
+    std::string text; ///< The line itself, or "qq" and the number of a language line.
+    int steps = 0;    ///< How long it stays.
+};
+
+/// What the protagonist says on touching the object.
+struct Dialog {
+    std::vector<DialogLine> lines;
+    bool once = false;
+    bool locked = false; ///< Says nothing until a script unlocks it.
+};
+
 /// A scene object to be.
 struct LevelObject {
     int id = 0;
@@ -83,6 +95,8 @@ struct LevelObject {
     std::vector<std::string> scripts;
     std::optional<int> health;
     std::optional<Damage> damage;
+    std::optional<float> forcePower; ///< Along its own up axis, in units of the world's gravity.
+    std::optional<Dialog> dialog;
 };
 
 constexpr int worldIndex = -1; ///< In place of an object: the joint's other side is the world.

@@ -1,6 +1,7 @@
 #include "LevelBuilder.h"
 
 #include "JointBuilder.h"
+#include "ObjectAdditions.h"
 #include "ObjectClass.h"
 #include "ShapeBuilder.h"
 
@@ -12,23 +13,6 @@ namespace mapc {
 namespace {
 
 constexpr float markerHalf = 5.0F;
-
-/// The chains of a script property, one a line.
-std::vector<std::string> scriptLines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = std::min(text.find('\n', start), text.size());
-        std::string line = text.substr(start, end - start);
-        line.erase(line.find_last_not_of(" \t\r") + 1);
-        line.erase(0, line.find_first_not_of(" \t"));
-        if (!line.empty()) {
-            lines.push_back(line);
-        }
-        start = end + 1;
-    }
-    return lines;
-}
 
 /// What makes several objects one: a property, or a layer of class Compound around them.
 std::string groupOf(const TiledObject& object) {
@@ -148,12 +132,7 @@ private:
         object.id = source.id;
         object.pose = part.pose;
         object.parts.push_back(part);
-        object.scripts = scriptLines(properties.text("script", ""));
-        const bool drawnOnly = !part.solid;
-        if (drawnOnly && !object.scripts.empty()) {
-            throw std::string("has no body, which a script needs: make it a Trigger or a Wall");
-        }
-        if (!drawnOnly) {
+        if (part.solid) {
             object.name = source.name; // names of scenery are for the editor alone
             object.body = readBody(properties, objectClass);
         }
@@ -161,12 +140,7 @@ private:
             object.force =
                 Point{properties.number("forceX", 0.0F), properties.number("forceY", 0.0F)};
         }
-        if (const int health = properties.integer("health", 0); health != 0) {
-            object.health = health;
-        }
-        if (const int damage = properties.integer("damage", 0); damage != 0 && !drawnOnly) {
-            object.damage = Damage{damage, properties.number("damageThreshold", 0.0F)};
-        }
+        readAdditions(properties, object);
         return object;
     }
 

@@ -21,6 +21,14 @@ int typeCode(const LevelObject& object) {
     return object.body.has_value() ? sceneObjectType::plain : sceneObjectType::withoutPhysics;
 }
 
+void writeDialog(TextWriter& stream, const Dialog& dialog) {
+    stream << dialog.lines.size() << dialog.once << dialog.locked;
+    for (const DialogLine& line : dialog.lines) {
+        stream.writeCounted(line.text);
+        stream << line.steps;
+    }
+}
+
 /// Each as the text of its record.
 std::vector<std::string> additionsOf(const LevelObject& object) {
     std::vector<std::string> records;
@@ -42,6 +50,13 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
         record(AdditionType::damage, [&](TextWriter& stream) {
             stream << object.damage->amount << object.damage->threshold;
         });
+    }
+    if (object.forcePower.has_value()) {
+        record(AdditionType::forcefield, [&](TextWriter& stream) { stream << *object.forcePower; });
+    }
+    if (object.dialog.has_value()) {
+        record(AdditionType::dialog,
+               [&](TextWriter& stream) { writeDialog(stream, *object.dialog); });
     }
     return records;
 }

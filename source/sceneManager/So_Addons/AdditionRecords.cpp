@@ -1,7 +1,10 @@
 #include "AdditionRecords.h"
 
 #include "CustomCallbackAdd.h"
+#include "DamageAdd.h"
 #include "DelayAdd.h"
+#include "DialogAdd.h"
+#include "ForcefieldAdd.h"
 #include "HealthAdd.h"
 #include "LockAdd.h"
 #include "LoopSoundAdds.h"
@@ -32,6 +35,8 @@ static constexpr RecordReader record(AdditionType type) {
 std::span<const RecordReader> recordReaders() {
     using enum AdditionType;
     static constexpr std::array table{
+        RecordReader{dialog, DialogAdd::read},
+        record<DamageAdd>(damage),
         record<HealthAdd>(health),
         record<CustomCallbackAdd>(customCallback),
         record<TriggerAdd>(trigger),
@@ -45,6 +50,7 @@ std::span<const RecordReader> recordReaders() {
         record<MovSoundAdd>(movSound),
         record<SoundSourceAdd>(soundSource),
         RecordReader{particleEmiter, ParticleEmiter::read},
+        record<ForcefieldAdd>(forcefield),
         RecordReader{light, LightAdd::read},
         record<ObscuredAdd>(obscured),
         record<SoundAdd>(sound),

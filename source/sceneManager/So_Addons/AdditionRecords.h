@@ -8,7 +8,7 @@
 struct RecordReader {
     AdditionType type;
     /// Reads what follows the type, in a link of a chain without has-next. The result belongs to
-    /// the caller.
+    /// the caller; null for a record that stands for no addition.
     So_Addition* (*read)(TextReader& stream);
 };
 

@@ -17,3 +17,10 @@ btTypedConstraint* firstJoint(const SceneObject* object) {
     return body != nullptr && body->getNumConstraintRefs() > 0 ? body->getConstraintRef(0)
                                                                : nullptr;
 }
+
+void accelerate(const SceneObject* object, const btVector3& acceleration) {
+    btRigidBody* body = bodyOf(object);
+    if (body != nullptr && !body->isStaticObject() && body->getInvMass() != 0.0F) {
+        body->applyCentralForce(acceleration * (1.0F / body->getInvMass()));
+    }
+}

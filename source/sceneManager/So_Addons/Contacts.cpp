@@ -7,15 +7,36 @@
 #include <BulletCollision/CollisionShapes/btCollisionShape.h>
 #include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
 
-int Contact::pointsWithin(double slack) const {
+int Contact::pointsWithin(double slack, float leastImpulse) const {
     const double reach = static_cast<double>(body.getCollisionShape()->getMargin()) + slack;
     int count = 0;
     for (int i = 0; i < manifold.getNumContacts(); ++i) {
-        if (reach >= static_cast<double>(manifold.getContactPoint(i).m_distance1)) {
+        const btManifoldPoint& point = manifold.getContactPoint(i);
+        if (reach >= static_cast<double>(point.m_distance1) &&
+            point.m_appliedImpulse >= leastImpulse) {
             ++count;
         }
     }
     return count;
+}
+
+void Contact::hurtOther(int damage, float leastImpulse) const {
+    if (other == nullptr) {
+        return;
+    }
+    const int points = pointsWithin(0.0, leastImpulse);
+    for (int i = 0; i < points; ++i) {
+        other->hurt(damage);
+    }
+}
+
+bool Contact::comesWithin(float distance) const {
+    for (int i = 0; i < manifold.getNumContacts(); ++i) {
+        if (manifold.getContactPoint(i).m_distance1 <= distance) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool Contact::overlaps() const {

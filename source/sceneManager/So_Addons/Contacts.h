@@ -1,12 +1,13 @@
 #pragma once
 
+#include <limits>
 #include <span>
 
 class SceneObject;
 class btCollisionObject;
 class btPersistentManifold;
 
-// How keywords look at what touches their object.
+// How additions look at what touches their object.
 
 /// One contact of an object in this step, seen from that object.
 struct Contact {
@@ -14,8 +15,15 @@ struct Contact {
     const btCollisionObject& body; ///< The other party's.
     SceneObject* other;            ///< Null if the other body belongs to no scene object.
 
-    /// How many of the contact's points lie within the margin of the other shape plus `slack`.
-    int pointsWithin(double slack) const;
+    static constexpr float anyImpulse = std::numeric_limits<float>::lowest();
+
+    /// How many of the contact's points lie within the margin of the other shape plus `slack`, and
+    /// were pushed apart by at least the impulse.
+    int pointsWithin(double slack, float leastImpulse = anyImpulse) const;
+    /// Hurts the other party once for each such point.
+    void hurtOther(int damage, float leastImpulse = anyImpulse) const;
+    /// Whether the parties are at a point no further apart than that, world units.
+    bool comesWithin(float distance) const;
     /// Whether the parties overlap at a point.
     bool overlaps() const;
 };

@@ -15,7 +15,7 @@ void HealthAdd::save(TextWriter& stream) const {
 }
 
 void HealthAdd::update(SceneObject* owner) {
-    if (value < 1) {
+    if (value < 1 && owner != nullptr) {
         owner->shatter();
     }
 }

@@ -112,13 +112,9 @@ bool TipMessageAdd::fire(SceneObject*) {
 static void hurtTouching(const SceneObject* owner, int damage, bool onlyMonsters) {
     for (const btPersistentManifold* manifold : manifoldsOf(owner)) {
         const Contact contact = contactOf(owner, *manifold);
-        if (contact.other == nullptr ||
-            (onlyMonsters && contact.other->type != sceneObjectType::evilPlayer)) {
-            continue;
-        }
-        const int points = contact.pointsWithin(0.0);
-        for (int i = 0; i < points; ++i) {
-            contact.other->hurt(damage);
+        if (!onlyMonsters ||
+            (contact.other != nullptr && contact.other->type == sceneObjectType::evilPlayer)) {
+            contact.hurtOther(damage);
         }
     }
 }

@@ -62,6 +62,7 @@ public:
     const AdditionType type;
 };
 
-/// Reads the record of any addition, type first. The result belongs to the caller.
+/// Reads the record of any addition, type first. The result belongs to the caller; null for a
+/// dialog without entries.
 /// @throws std::string "file corrupted"
 So_Addition* readAddition(TextReader& stream);
