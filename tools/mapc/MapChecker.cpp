@@ -126,7 +126,8 @@ void checkSounds(const Level& level, const std::string& directory, std::vector<P
         forEachField(object, [&](const AdditionField& field, const std::string& value) {
             std::error_code ignored;
             if (field.role == FieldRole::sound &&
-                !std::filesystem::is_regular_file(std::filesystem::path(directory) / value, ignored)) {
+                !std::filesystem::is_regular_file(std::filesystem::path(directory) / value,
+                                                  ignored)) {
                 report(object, "sound \"" + value + "\" does not exist", problems);
             }
         });
