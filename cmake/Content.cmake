@@ -45,6 +45,21 @@ add_content(data/text2.tga
     DEPENDS font_builder ${TOLMERE_FONT})
 get_property(content_textures GLOBAL PROPERTY content_files)
 
+# Sounds and music: one rule a row of their manifest.
+set(manifest ${content_source}/sounds.txt)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${manifest})
+file(STRINGS ${manifest} rows REGEX "^[^#]")
+foreach(row IN LISTS rows)
+    string(REGEX MATCH "^[^ ]+" sound "${row}")
+    set(folder sound)
+    if(sound MATCHES "[.]ogg$")
+        set(folder music)
+    endif()
+    add_content(${folder}/${sound}
+        COMMAND sound_builder ${manifest} ${content_game}/${folder} ${sound}
+        DEPENDS sound_builder ${manifest})
+endforeach()
+
 # Texts.
 foreach(language lang_eng lang_pol)
     set(texts ${content_source}/languages/${language}.txt)
