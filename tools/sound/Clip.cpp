@@ -91,7 +91,8 @@ void startQuietly(Clip& clip) {
         quietest = loudness(i) < loudness(quietest) ? i : quietest;
     }
     for (Signal& channel : clip.channels) {
-        std::ranges::rotate(channel, channel.begin() + static_cast<std::ptrdiff_t>(quietest));
+        std::rotate(channel.begin(), channel.begin() + static_cast<std::ptrdiff_t>(quietest),
+                    channel.end());
     }
 }
 

@@ -2,13 +2,14 @@
 
 #include "Chance.h"
 
+#include <cmath>
 #include <vector>
 
 inline constexpr int samplesPerSecond = 44100;
 inline constexpr float twoPi = 6.28318531f;
 
 inline int framesOf(float seconds) {
-    return static_cast<int>(seconds * samplesPerSecond + 0.5f);
+    return static_cast<int>(std::lround(seconds * samplesPerSecond));
 }
 
 /// One channel of sound, 44100 samples a second; full scale is 1, but only the finished clip has
