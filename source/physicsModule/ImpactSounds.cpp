@@ -61,9 +61,12 @@ void ImpactSounds::hear(const btPersistentManifold& manifold) {
             playThud(point);
             return; // one thud a pair and step
         }
+        if (!(point.m_distance1 < rollDistance)) {
+            continue;
+        }
         const btVector3 slip = a.getVelocityInLocalPoint(point.m_localPointA) -
                                b.getVelocityInLocalPoint(point.m_localPointB);
-        if (point.m_distance1 < rollDistance && slip.length2() > rollSpeed * rollSpeed) {
+        if (slip.length2() > rollSpeed * rollSpeed) {
             const auto owner = reinterpret_cast<SoundOwner>(sceneObjectOf(a));
             soundManager().play("roll.wav", point.m_positionWorldOnA, owner,
                                 volumeOf(slip.length()), true);

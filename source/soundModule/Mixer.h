@@ -33,8 +33,6 @@ public:
     virtual void setVolume(int channel, int volume) = 0;
     virtual void halt(int channel) = 0;
     virtual bool isPlaying(int channel) = 0;
-    /// The sound that was last started on the channel, be it running or not.
-    virtual SoundId soundOn(int channel) = 0;
 
     /// Fades a piece in and repeats it for ever; no other may be playing. False if it cannot start.
     virtual bool fadeInMusic(MusicId music, int milliseconds) = 0;

@@ -3,7 +3,6 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
-#include <array>
 #include <atomic>
 #include <cstddef>
 #include <vector>
@@ -60,7 +59,6 @@ public:
     void setVolume(int channel, int volume) override { Mix_Volume(channel, volume); }
     void halt(int channel) override { Mix_HaltChannel(channel); }
     bool isPlaying(int channel) override { return Mix_Playing(channel) != 0; }
-    SoundId soundOn(int channel) override { return lastSounds[static_cast<std::size_t>(channel)]; }
 
     bool fadeInMusic(MusicId music, int milliseconds) override;
     void fadeOutMusic(int milliseconds) override { Mix_FadeOutMusic(milliseconds); }
@@ -72,14 +70,12 @@ private:
     unsigned frameBytes = 0;
     std::vector<Chunk> sounds; // a SoundId is an index
     std::vector<Music> pieces; // a MusicId is an index
-    std::array<SoundId, channelCount> lastSounds{};
 };
 
 bool SdlMixer::open() {
     isOpen = Mix_OpenAudio(samplesPerSecond, AUDIO_S16LSB, speakers, bufferSamples) == 0;
     if (isOpen) {
         Mix_AllocateChannels(channelCount);
-        lastSounds.fill(SoundId::none);
         frameBytes = bytesOfFrame();
         musicFinished = false;
         Mix_HookMusicFinished([] { musicFinished = true; });
@@ -125,11 +121,7 @@ MusicId SdlMixer::loadMusic(const std::string& path) {
 
 int SdlMixer::play(SoundId sound, bool forEver) {
     Mix_Chunk* chunk = sounds[static_cast<std::size_t>(sound)].get();
-    const int channel = Mix_PlayChannelTimed(-1, chunk, forEver ? -1 : 0, -1);
-    if (channel != noChannel) {
-        lastSounds[static_cast<std::size_t>(channel)] = sound;
-    }
-    return channel;
+    return Mix_PlayChannelTimed(-1, chunk, forEver ? -1 : 0, -1);
 }
 
 bool SdlMixer::fadeInMusic(MusicId music, int milliseconds) {

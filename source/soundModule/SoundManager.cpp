@@ -114,7 +114,7 @@ void SoundManager::play(const std::string& name, const btVector3& position, Soun
     }
     const int channel = start(sound, heard, !once);
     if (channel != Mixer::noChannel) {
-        tenants[static_cast<std::size_t>(channel)] = {owner, sound};
+        tenants[static_cast<std::size_t>(channel)].owner = owner;
     }
 }
 
@@ -204,7 +204,8 @@ SoundId SoundManager::findSound(const std::string& name) const {
 
 /// Whether the sound is running on the channel; never for an unknown sound.
 bool SoundManager::carries(int channel, SoundId sound) const {
-    return sound != SoundId::none && mixer->soundOn(channel) == sound && mixer->isPlaying(channel);
+    return tenants[static_cast<std::size_t>(channel)].sound == sound && sound != SoundId::none &&
+           mixer->isPlaying(channel);
 }
 
 /// Whether the channel runs the sound for the owner.
@@ -218,6 +219,7 @@ int SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver) {
         report("Unable to play sound");
     } else {
         mixer->setVolume(channel, volume);
+        tenants[static_cast<std::size_t>(channel)].sound = sound;
     }
     return channel;
 }

@@ -58,8 +58,9 @@ public:
     std::string currentMusic;  ///< What plays or is about to play.
 
 private:
-    /// What `play` last put on a channel. Holds only while the channel still runs that sound:
-    /// sounds end, and one-shots without owner take free channels too.
+    /// What was last put on a channel, and who last owned one; it means something only while the
+    /// channel plays. Kept here because sounds are asked for many times a step, and the audio
+    /// library's answers are calls through a lock.
     struct Tenant {
         SoundOwner owner = 0;
         SoundId sound = SoundId::none;

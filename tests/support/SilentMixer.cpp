@@ -57,10 +57,6 @@ bool SilentMixer::isPlaying(int channel) {
     return channels[static_cast<std::size_t>(channel)].playing;
 }
 
-SoundId SilentMixer::soundOn(int channel) {
-    return channels[static_cast<std::size_t>(channel)].sound;
-}
-
 bool SilentMixer::fadeInMusic(MusicId piece, int /*milliseconds*/) {
     music = pieces[static_cast<std::size_t>(piece)];
     ++musicStarts;

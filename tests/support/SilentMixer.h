@@ -39,7 +39,6 @@ public:
     void setVolume(int channel, int volume) override;
     void halt(int channel) override { endSound(channel); }
     bool isPlaying(int channel) override;
-    SoundId soundOn(int channel) override;
     bool fadeInMusic(MusicId piece, int milliseconds) override;
     void fadeOutMusic(int milliseconds) override;
     bool isMusicPlaying() override { return !music.empty(); }

@@ -118,7 +118,7 @@ TEST_F(SdlMixerTest, WithoutFoldersTheGameIsMerelySilent) {
     soundManager().stopAll("roll.wav");
 }
 
-TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselvesAndSayWhatTheyPlayed) {
+TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselves) {
     directory.write("sound.wav", makeWav(44100, 2, 16, 4410));
     const std::unique_ptr<Mixer> mixer = makeSdlMixer();
     ASSERT_TRUE(mixer->initialise());
@@ -127,13 +127,11 @@ TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselvesAndSayWhatTheyPlayed) {
     const MusicId music = mixer->loadMusic(directory.file("sound.wav"));
     EXPECT_EQ(mixer->loadSound(directory.file("none.wav")), SoundId::none);
 
-    EXPECT_EQ(mixer->soundOn(0), SoundId::none);
     EXPECT_EQ(mixer->play(sound, false), 0);
     EXPECT_EQ(mixer->play(sound, true), 1);
     EXPECT_TRUE(mixer->isPlaying(0));
     EXPECT_TRUE(comesTrue([&] { return !mixer->isPlaying(0); })) << "played once";
     EXPECT_TRUE(mixer->isPlaying(1)) << "for ever";
-    EXPECT_EQ(mixer->soundOn(0), sound) << "the last one";
     mixer->halt(1);
     EXPECT_FALSE(mixer->isPlaying(1));
 
