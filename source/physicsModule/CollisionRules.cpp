@@ -1,6 +1,9 @@
 #include "CollisionRules.h"
 
+#include "PhysicsObject.h"
 #include "sceneManager/SceneObject.h"
+
+#include <BulletDynamics/Dynamics/btRigidBody.h>
 
 namespace {
 
@@ -13,6 +16,20 @@ constexpr int loose = 0x20;
 constexpr int barrier = 0x40;
 constexpr int all = 0xFFFF;
 } // namespace group
+
+int findTraits(const PhysicsObject& object) {
+    const btRigidBody& body = *object.body;
+    const SceneObject* owner = sceneObjectOf(body);
+    if (owner == nullptr) {
+        return 0;
+    }
+    const bool noise =
+        owner->contactNoise && object.kind == collisionKind::normal && body.hasContactResponse();
+    return (object.kind == collisionKind::loose ? bodyTrait::loose : 0) |
+           (object.kind == collisionKind::barrier ? bodyTrait::barrier : 0) |
+           (object.wantsContacts ? bodyTrait::wantsContacts : 0) |
+           (noise ? bodyTrait::makesNoise : 0);
+}
 
 } // namespace
 
@@ -37,4 +54,16 @@ std::optional<CollisionFilter> collisionFilter(int kind, bool isStatic) {
 PhysicsObject* physicsObjectOf(const btCollisionObject& body) {
     const SceneObject* object = sceneObjectOf(body);
     return object != nullptr ? object->physicsObject : nullptr;
+}
+
+void storeTraits(PhysicsObject& object) {
+    object.body->setUserIndex(findTraits(object));
+}
+
+int traitsOf(const btCollisionObject& body) {
+    if (body.getUserIndex() >= 0) {
+        return body.getUserIndex();
+    }
+    const PhysicsObject* object = physicsObjectOf(body); // added since the step began, or foreign
+    return object != nullptr ? findTraits(*object) : 0;
 }

@@ -31,3 +31,18 @@ inline SceneObject* sceneObjectOf(const btCollisionObject& body) {
 }
 /// The physics object of a body, null likewise.
 PhysicsObject* physicsObjectOf(const btCollisionObject& body);
+
+/// What is asked of a body for each pair that it is part of, as bits. Kept on the body, in its user
+/// index: with a thousand bodies, to follow each pair to the objects behind it would cost more than
+/// all else that we add to a step.
+namespace bodyTrait {
+constexpr int loose = 1;
+constexpr int barrier = 2;
+constexpr int wantsContacts = 4;
+constexpr int makesNoise = 8; ///< Its collisions thud and roll.
+} // namespace bodyTrait
+
+/// Notes the traits on the body, at the start of each step.
+void storeTraits(PhysicsObject& object);
+/// The traits of the step that runs; none for bodies that the game did not make.
+int traitsOf(const btCollisionObject& body);

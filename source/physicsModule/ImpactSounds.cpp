@@ -1,9 +1,7 @@
 #include "ImpactSounds.h"
 
 #include "CollisionRules.h"
-#include "PhysicsObject.h"
 #include "graphicsModule/GraphicsModule.h"
-#include "sceneManager/SceneObject.h"
 #include "soundModule/SoundManager.h"
 
 #include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
@@ -26,13 +24,6 @@ std::uint8_t volumeOf(float loudness) {
     return static_cast<std::uint8_t>(std::clamp(loudness, 0.0F, static_cast<float>(loudest)));
 }
 
-/// Whether collisions of the body are heard; never for a body that is none of the game's.
-bool makesNoise(const btRigidBody& body) {
-    const SceneObject* object = sceneObjectOf(body);
-    return object != nullptr && object->contactNoise && object->physicsObject != nullptr &&
-           object->physicsObject->kind == collisionKind::normal && body.hasContactResponse();
-}
-
 bool isThud(const btManifoldPoint& point) {
     return point.m_distance1 < thudDepth && point.m_lifeTime == 1 &&
            point.m_appliedImpulse > thudImpulse;
@@ -52,7 +43,7 @@ void playThud(const btManifoldPoint& point) {
 void ImpactSounds::hear(const btPersistentManifold& manifold) {
     const auto& a = static_cast<const btRigidBody&>(*manifold.getBody0());
     const auto& b = static_cast<const btRigidBody&>(*manifold.getBody1());
-    if (!makesNoise(a) || !makesNoise(b)) {
+    if ((traitsOf(a) & traitsOf(b) & bodyTrait::makesNoise) == 0) {
         return;
     }
     for (int i = 0; i < manifold.getNumContacts(); ++i) {

@@ -21,9 +21,8 @@
 namespace {
 
 void collectContact(const btCollisionObject& body, btPersistentManifold* manifold) {
-    PhysicsObject* object = physicsObjectOf(body);
-    if (object != nullptr && object->wantsContacts) {
-        object->contacts.push_back(manifold);
+    if ((traitsOf(body) & bodyTrait::wantsContacts) != 0) {
+        physicsObjectOf(body)->contacts.push_back(manifold);
     }
 }
 
@@ -45,10 +44,9 @@ PhysicsModule& physicsModule() {
 }
 
 void PhysicsModule::update() {
-    storePreviousTransforms();
+    prepareObjects();
     stepWorld();
     collectContacts();
-    ageObjects();
     updateScene();
     soundManager().update();
     graphicsModule().updateStep();
@@ -58,9 +56,15 @@ void PhysicsModule::update() {
     ++stepCount;
 }
 
-void PhysicsModule::storePreviousTransforms() {
+/// All that is done to each object, in one pass: it is the fetching of them that costs.
+void PhysicsModule::prepareObjects() {
     for (PhysicsObject* object : physicsObjects) {
         object->previousTransform = object->body->getWorldTransform();
+        object->contacts.clear();
+        storeTraits(*object);
+        if (SceneObject* owner = sceneObjectOf(*object->body)) {
+            ++owner->age;
+        }
     }
 }
 
@@ -71,9 +75,6 @@ void PhysicsModule::stepWorld() {
 }
 
 void PhysicsModule::collectContacts() {
-    for (PhysicsObject* object : physicsObjects) {
-        object->contacts.clear();
-    }
     ImpactSounds sounds;
     constexpr int prefetchDistance = 6;
     btPersistentManifold** manifolds = dispatcher->getInternalManifoldPointer();
@@ -85,14 +86,6 @@ void PhysicsModule::collectContacts() {
         sounds.hear(*manifolds[i]);
     }
     sounds.finish();
-}
-
-void PhysicsModule::ageObjects() {
-    for (const PhysicsObject* object : physicsObjects) {
-        if (SceneObject* owner = sceneObjectOf(*object->body)) {
-            ++owner->age;
-        }
-    }
 }
 
 void PhysicsModule::updateScene() {

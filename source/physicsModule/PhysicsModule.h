@@ -74,10 +74,9 @@ private:
     void registerAlgorithms();
 
     // The phases of a step, in order.
-    void storePreviousTransforms();
+    void prepareObjects();
     void stepWorld();
     void collectContacts();
-    void ageObjects();
     void updateScene();
     void runScripts();
 

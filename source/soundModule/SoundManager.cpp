@@ -25,6 +25,7 @@ constexpr int longestPause = 300; // steps between two breaths
 constexpr int breathSounds = 11;
 constexpr int musicFade = 2000; // milliseconds
 constexpr auto bodyOwner = static_cast<SoundOwner>(-1);
+constexpr SoundOwner noOwner = 0;
 
 const btVector3 everywhere(0.0F, 0.0F, 0.0F);
 
@@ -146,6 +147,7 @@ void SoundManager::stopAll(const std::string& name) {
     for (int channel = 0; channel < Mixer::channelCount; ++channel) {
         if (carries(channel, sound)) {
             mixer->halt(channel);
+            channelsTaken = false;
         }
     }
 }
@@ -185,6 +187,7 @@ void SoundManager::addFear(float periodDelta, int levelDelta) {
 }
 
 void SoundManager::update() {
+    channelsTaken = false;
     beatHeart();
     if (fearPeriod < calmFearPeriod && --fearCountdown <= 0) {
         breathe();
@@ -192,6 +195,7 @@ void SoundManager::update() {
 }
 
 void SoundManager::tick() {
+    channelsTaken = false;
     if (mixer->takeMusicFinished()) {
         playMusic(currentMusic);
     }
@@ -214,12 +218,16 @@ bool SoundManager::holds(int channel, SoundOwner owner, SoundId sound) const {
 }
 
 int SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver) {
+    if (channelsTaken) {
+        return Mixer::noChannel;
+    }
     const int channel = mixer->play(sound, forEver);
-    if (channel == Mixer::noChannel) {
+    channelsTaken = channel == Mixer::noChannel;
+    if (channelsTaken) {
         report("Unable to play sound");
     } else {
         mixer->setVolume(channel, volume);
-        tenants[static_cast<std::size_t>(channel)].sound = sound;
+        tenants[static_cast<std::size_t>(channel)] = {noOwner, sound};
     }
     return channel;
 }
@@ -227,6 +235,7 @@ int SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver) {
 void SoundManager::halt(int channel) {
     mixer->halt(channel);
     tenants[static_cast<std::size_t>(channel)] = {};
+    channelsTaken = false;
 }
 
 void SoundManager::beatHeart() {

@@ -58,8 +58,8 @@ public:
     std::string currentMusic;  ///< What plays or is about to play.
 
 private:
-    /// What was last put on a channel, and who last owned one; it means something only while the
-    /// channel plays. Kept here because sounds are asked for many times a step, and the audio
+    /// What was last put on a channel, and whose it is; it means something only while the channel
+    /// plays. Kept here because sounds are asked for many times a step, and the audio
     /// library's answers are calls through a lock.
     struct Tenant {
         SoundOwner owner = 0;
@@ -83,6 +83,9 @@ private:
     std::map<std::string, MusicId> musicByName;
     std::array<Tenant, Mixer::channelCount> tenants;
     int fearCountdown = 0; // steps to the next breath
+    /// Since a sound found no channel: until one is halted or the step ends, no other is tried,
+    /// so that a hundred rolling stones are one line of complaint a step and not a hundred.
+    bool channelsTaken = false;
 };
 
 SoundManager& soundManager();
