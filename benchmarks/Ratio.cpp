@@ -16,17 +16,14 @@ double secondsOf(int calls, const std::function<void()>& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-} // namespace
-
-void compare(benchmark::State& state, int calls, double limit, const std::function<void()>& ours,
-             const std::function<void()>& bare) {
+/// Runs the rounds and reports their medians. `time` gives the seconds that `calls` of ours took.
+void runRounds(benchmark::State& state, int calls, double limit,
+               const std::function<double()>& time, const std::function<void()>& bare) {
     std::array<double, rounds> ratios{};
     std::array<double, rounds> times{};
     for ([[maybe_unused]] auto turn : state) {
-        secondsOf(1, ours);
-        secondsOf(1, bare);
         for (std::size_t i = 0; i < rounds; ++i) {
-            times[i] = secondsOf(calls, ours);
+            times[i] = time();
             ratios[i] = times[i] / secondsOf(calls, bare);
         }
     }
@@ -38,4 +35,26 @@ void compare(benchmark::State& state, int calls, double limit, const std::functi
     if (ratios[rounds / 2] > limit) {
         state.SetLabel("OVER THE LIMIT");
     }
+}
+
+} // namespace
+
+void compare(benchmark::State& state, int calls, double limit, const std::function<void()>& ours,
+             const std::function<void()>& bare) {
+    ours();
+    bare();
+    runRounds(
+        state, calls, limit, [&] { return secondsOf(calls, ours); }, bare);
+}
+
+void compareBeyond(benchmark::State& state, int calls, double limit,
+                   const std::function<void(bool)>& put, const std::function<void()>& ours,
+                   const std::function<void()>& bare) {
+    const auto with = [&](bool there) {
+        put(there);
+        ours();
+        return secondsOf(calls, ours);
+    };
+    runRounds(
+        state, calls, limit, [&] { return with(true) - with(false); }, bare);
 }

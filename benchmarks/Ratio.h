@@ -9,3 +9,9 @@
 /// "limit". Both callables do the same amount of work a call; `calls` of each make a round.
 void compare(benchmark::State& state, int calls, double limit, const std::function<void()>& ours,
              const std::function<void()>& bare);
+
+/// The same for what our work costs more with something than without it: `put` puts it there or
+/// takes it away, untimed.
+void compareBeyond(benchmark::State& state, int calls, double limit,
+                   const std::function<void(bool)>& put, const std::function<void()>& ours,
+                   const std::function<void()>& bare);

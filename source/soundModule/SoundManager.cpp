@@ -103,26 +103,22 @@ void SoundManager::play(const std::string& name, const btVector3& position, Soun
     if (sound == SoundId::none) {
         return;
     }
-    const std::uint8_t heard = mixed(volume, distanceVolume(position));
-    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
-        if (holds(channel, owner, sound)) {
-            heard != 0 ? mixer->setVolume(channel, heard) : halt(channel);
-            return;
-        }
-    }
-    if (heard == 0) {
+    const int running = findChannel(owner, sound, 0);
+    if (running == Mixer::noChannel && channelsTaken) {
         return;
     }
-    const int channel = start(sound, heard, !once);
-    if (channel != Mixer::noChannel) {
-        tenants[static_cast<std::size_t>(channel)].owner = owner;
+    const std::uint8_t heard = mixed(volume, distanceVolume(position));
+    if (running != Mixer::noChannel) {
+        heard != 0 ? mixer->setVolume(running, heard) : halt(running);
+    } else if (heard != 0) {
+        start(sound, heard, !once, owner);
     }
 }
 
 void SoundManager::playFlat(const std::string& name, std::uint8_t volume) {
     const SoundId sound = findSound(name);
     if (sound != SoundId::none) {
-        start(sound, volume, false);
+        start(sound, volume, false, noOwner);
     }
 }
 
@@ -135,10 +131,9 @@ void SoundManager::playAt(const std::string& name, const btVector3& position) {
 
 void SoundManager::stop(const std::string& name, SoundOwner owner) {
     const SoundId sound = findSound(name);
-    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
-        if (holds(channel, owner, sound)) {
-            halt(channel);
-        }
+    for (int channel = findChannel(owner, sound, 0); channel != Mixer::noChannel;
+         channel = findChannel(owner, sound, channel + 1)) {
+        halt(channel);
     }
 }
 
@@ -146,15 +141,15 @@ void SoundManager::stopAll(const std::string& name) {
     const SoundId sound = findSound(name);
     for (int channel = 0; channel < Mixer::channelCount; ++channel) {
         if (carries(channel, sound)) {
-            mixer->halt(channel);
-            channelsTaken = false;
+            halt(channel);
         }
     }
 }
 
 void SoundManager::stopOwner(SoundOwner owner) {
     for (int channel = 0; channel < Mixer::channelCount; ++channel) {
-        if (holds(channel, owner, tenants[static_cast<std::size_t>(channel)].sound)) {
+        const auto i = static_cast<std::size_t>(channel);
+        if (channelOwner[i] == owner && carries(channel, channelSound[i])) {
             halt(channel);
         }
     }
@@ -208,33 +203,42 @@ SoundId SoundManager::findSound(const std::string& name) const {
 
 /// Whether the sound is running on the channel; never for an unknown sound.
 bool SoundManager::carries(int channel, SoundId sound) const {
-    return tenants[static_cast<std::size_t>(channel)].sound == sound && sound != SoundId::none &&
+    return sound != SoundId::none && channelSound[static_cast<std::size_t>(channel)] == sound &&
            mixer->isPlaying(channel);
 }
 
-/// Whether the channel runs the sound for the owner.
-bool SoundManager::holds(int channel, SoundOwner owner, SoundId sound) const {
-    return tenants[static_cast<std::size_t>(channel)].owner == owner && carries(channel, sound);
+/// The next channel, from `first` on, that runs the sound for the owner, or `noChannel`.
+int SoundManager::findChannel(SoundOwner owner, SoundId sound, int first) const {
+    auto at = channelOwner.begin() + first;
+    while ((at = std::find(at, channelOwner.end(), owner)) != channelOwner.end()) {
+        const auto channel = static_cast<int>(at - channelOwner.begin());
+        if (carries(channel, sound)) {
+            return channel;
+        }
+        ++at;
+    }
+    return Mixer::noChannel;
 }
 
-int SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver) {
+void SoundManager::start(SoundId sound, std::uint8_t volume, bool forEver, SoundOwner owner) {
     if (channelsTaken) {
-        return Mixer::noChannel;
+        return;
     }
     const int channel = mixer->play(sound, forEver);
     channelsTaken = channel == Mixer::noChannel;
     if (channelsTaken) {
         report("Unable to play sound");
-    } else {
-        mixer->setVolume(channel, volume);
-        tenants[static_cast<std::size_t>(channel)] = {noOwner, sound};
+        return;
     }
-    return channel;
+    mixer->setVolume(channel, volume);
+    channelOwner[static_cast<std::size_t>(channel)] = owner;
+    channelSound[static_cast<std::size_t>(channel)] = sound;
 }
 
 void SoundManager::halt(int channel) {
     mixer->halt(channel);
-    tenants[static_cast<std::size_t>(channel)] = {};
+    channelOwner[static_cast<std::size_t>(channel)] = noOwner;
+    channelSound[static_cast<std::size_t>(channel)] = SoundId::none;
     channelsTaken = false;
 }
 

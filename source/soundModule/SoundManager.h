@@ -58,22 +58,14 @@ public:
     std::string currentMusic;  ///< What plays or is about to play.
 
 private:
-    /// What was last put on a channel, and whose it is; it means something only while the channel
-    /// plays. Kept here because sounds are asked for many times a step, and the audio
-    /// library's answers are calls through a lock.
-    struct Tenant {
-        SoundOwner owner = 0;
-        SoundId sound = SoundId::none;
-    };
-
     void openMixer();
     void loadSounds();
     void loadMusic();
     void report(const char* message) const;
     SoundId findSound(const std::string& name) const;
     bool carries(int channel, SoundId sound) const;
-    bool holds(int channel, SoundOwner owner, SoundId sound) const;
-    int start(SoundId sound, std::uint8_t volume, bool forEver);
+    int findChannel(SoundOwner owner, SoundId sound, int first) const;
+    void start(SoundId sound, std::uint8_t volume, bool forEver, SoundOwner owner);
     void halt(int channel);
     void beatHeart();
     void breathe();
@@ -81,7 +73,11 @@ private:
     std::unique_ptr<Mixer> mixer; // never null
     std::map<std::string, SoundId> soundsByName;
     std::map<std::string, MusicId> musicByName;
-    std::array<Tenant, Mixer::channelCount> tenants;
+    // What was last put on each channel, and whose it is. Both mean something only while the
+    // channel plays. Kept here, the owners for themselves, because sounds are asked for many times
+    // a step.
+    std::array<SoundOwner, Mixer::channelCount> channelOwner{};
+    std::array<SoundId, Mixer::channelCount> channelSound{};
     int fearCountdown = 0; // steps to the next breath
     /// Since a sound found no channel: until one is halted or the step ends, no other is tried,
     /// so that a hundred rolling stones are one line of complaint a step and not a hundred.

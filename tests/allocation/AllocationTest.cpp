@@ -1,5 +1,6 @@
 #include "support/EngineFixture.h"
 
+#include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
@@ -64,10 +65,22 @@ void fillStillScene() {
             new SceneObject(i % 2 == 0 ? makeBoxParts(look(1.0F), x, 20, 20, 20)
                                        : makeSphereParts(look(1.0F), x, 20, 20)));
     }
-    auto* machine = new SceneObject(makeBoxParts(look(0.0F), 0, 300, 20, 20));
-    machine->addAddition(parseScript("TRIGGER -P LOCK DELAY 100000 X NAME machine"));
-    sceneManager().addSceneObject(machine);
     physicsModule().addScript(parseScript("DELAY 100000 X"));
+}
+
+/// Machines of every kind that works or sounds by itself, all within hearing.
+void addMachines() {
+    float x = -400.0F;
+    for (const char* script :
+         {"TRIGGER -P LOCK DELAY 100000 X NAME machine", "STRIGGER SOUND bell.wav",
+          "DELAY 7 SOUND bell.wav DELAY 5 UNLOCK", "SOUNDSOURCE hum.wav -V 90", "MOVSOUND hum.wav",
+          "VSOUND hum.wav", "SQUEAK squeak.wav", "CREAK squeak.wav"}) {
+        auto* machine = new SceneObject(makeBoxParts(look(0.0F), x, 300, 20, 20));
+        machine->addAddition(parseScript(script));
+        sceneManager().addSceneObject(machine);
+        x += 100.0F;
+    }
+    graphicsModule().camera->setY(300.0F);
 }
 
 class Allocation : public EngineFixture {
@@ -76,12 +89,19 @@ protected:
         btAlignedAllocSetCustom(countedAllocation, release); // Bullet's own as well
         EngineFixture::SetUp();
     }
+    void prepareDirectory() override {
+        EngineFixture::prepareDirectory();
+        for (const char* name : {"bell", "hum", "squeak", "thud", "roll"}) {
+            directory.write("sound/" + std::string(name) + ".wav", "");
+        }
+    }
 };
 
 } // namespace
 
 TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
     fillStillScene();
+    addMachines();
     inputModule().showTip("A tip of four words", 0.0F, 0.0F, false, false);
     step(240);
     frame(10);
@@ -89,6 +109,7 @@ TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
     allocations = 0;
     step(60);
     EXPECT_EQ(allocations, 0U) << "in a step";
+    EXPECT_NE(mixer->running().find("hum.wav 8"), std::string::npos) << mixer->running();
     allocations = 0;
     for (int i = 0; i < 20; ++i) {
         graphicsModule().update();

@@ -26,7 +26,7 @@ TEST(ChainRecord, EveryKeywordPrintsWhatItReadsBack) {
     for (const Keyword& keyword : keywordTable()) {
         for (const char* rest : {"", " 7", " 7 X", " -P", " -O X", " a.wav -V 3 X",
                                  " a.wav b.wav X", "  X", " a\tb", " \n -V 3"}) {
-            const std::string script = keyword.word + std::string(rest);
+            const std::string script = std::string(keyword.word) + rest;
             const std::unique_ptr<CallbackAdd> chain(parseScript(script));
             const std::string record = print(*chain);
             EXPECT_EQ(readAndPrint(record), record) << script;

@@ -176,7 +176,7 @@ TEST_F(ChainRun, SetLockClosesAllLocksOfTheNamedObject) {
 TEST_F(ChainRun, EveryKeywordRunsInAGlobalScriptWithoutHarm) {
     for (const Keyword& keyword : keywordTable()) {
         for (const char* rest : {"", " 3 A", " a.wav -P A", " -P A", " -O A"}) {
-            run(keyword.word + std::string(rest), 4);
+            run(std::string(keyword.word) + rest, 4);
         }
     }
     physicsModule().removeAllScripts();

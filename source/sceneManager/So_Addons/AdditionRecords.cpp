@@ -87,7 +87,8 @@ static std::unique_ptr<So_Addition> readRecord(TextReader& stream) {
 
 So_Addition* readAddition(TextReader& stream) {
     std::unique_ptr<So_Addition> addition = readRecord(stream);
-    auto* tail = dynamic_cast<CallbackAdd*>(addition.get());
+    auto* const head = dynamic_cast<CallbackAdd*>(addition.get());
+    CallbackAdd* tail = head;
     while (tail != nullptr && tail->type != AdditionType::objectName && stream.read<bool>()) {
         std::unique_ptr<So_Addition> following = readRecord(stream);
         auto* link = dynamic_cast<CallbackAdd*>(following.get());
@@ -96,6 +97,9 @@ So_Addition* readAddition(TextReader& stream) {
         }
         static_cast<void>(following.release()); // the chain owns it from here on
         tail = tail->append(link);
+    }
+    if (head != nullptr) {
+        head->wireClocks();
     }
     return addition.release();
 }

@@ -60,15 +60,23 @@ void CallbackAdd::update(SceneObject* owner) {
     }
 }
 
+/// Advances the clocks, the ones nearest the end first, so that a clock that fires cannot be
+/// advanced in the same step by one before it.
 void CallbackAdd::tick(SceneObject* owner) {
-    CallbackAdd* link = this;
-    while (link->next != nullptr) {
-        link = link->next;
+    for (CallbackAdd* clock = lastClock; clock != nullptr; clock = clock->clockBefore) {
+        clock->advance(owner);
     }
-    for (; link != this; link = link->prev) {
-        link->advance(owner);
+}
+
+/// To be called on the head when the chain is complete.
+void CallbackAdd::wireClocks() {
+    lastClock = nullptr;
+    for (CallbackAdd* link = this; link != nullptr; link = link->next) {
+        link->clockBefore = lastClock;
+        if (link->isClock()) {
+            lastClock = link;
+        }
     }
-    advance(owner);
 }
 
 void CallbackAdd::fireNext(SceneObject* owner) {

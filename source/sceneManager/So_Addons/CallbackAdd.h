@@ -7,12 +7,13 @@
 #include <map>
 #include <string>
 
-/// One link of a script chain. A chain runs by two walks: `tick` goes over the whole chain once a
-/// step and drives every clock; `update` fires a link, and a link that has done its work lets its
+/// One link of a script chain. A chain runs by two walks: once a step, its head goes over the whole
+/// chain and drives every clock; `update` fires a link, and a link that has done its work lets its
 /// successor be fired. The head is fired every step.
 ///
 /// All walks are loops, so a chain may be as long as memory allows. A class of the family gives
-/// what one link does: `fire`, `finish`, `advance`, `lockLink`, `unlockLink` and `saveFields`. It
+/// what one link does: `fire`, `finish`, `isClock` and `advance`, `lockLink`, `unlockLink` and
+/// `saveFields`. It
 /// has a `keyword`, a constructor from words, which takes the keyword and its arguments from the
 /// front, and one from a record, which reads what `saveFields` writes.
 class CallbackAdd : public So_Addition {
@@ -30,10 +31,6 @@ public:
     /// A head with a successor ticks; then this link is fired, and its successors for as long as
     /// each lets the next one be fired.
     void update(SceneObject* owner) final;
-    /// Advances the clocks from this link on, the ones nearest the end first, so that a clock that
-    /// fires cannot be advanced in the same step by one before it.
-    void tick(SceneObject* owner);
-
     CallbackAdd* getNext() const { return next; }
     CallbackAdd* getPrev() const { return prev; }
 
@@ -45,7 +42,8 @@ protected:
     virtual bool fire(SceneObject* owner) = 0;
     /// What a link that let its successor be fired does after all of these have run.
     virtual void finish(SceneObject*) {}
-    /// One step of the link's clock.
+    /// Whether the link has a clock, which `advance` drives by one step. Always the same answer.
+    virtual bool isClock() const { return false; }
     virtual void advance(SceneObject*) {}
     virtual void lockLink() {}
     virtual void unlockLink() {}
@@ -60,9 +58,13 @@ private:
     friend So_Addition* readAddition(TextReader& stream);
 
     CallbackAdd* append(CallbackAdd* link);
+    void wireClocks();
+    void tick(SceneObject* owner);
 
-    CallbackAdd* next = nullptr; // owned
-    CallbackAdd* prev = nullptr; // null marks the head
+    CallbackAdd* next = nullptr;        // owned
+    CallbackAdd* prev = nullptr;        // null marks the head
+    CallbackAdd* clockBefore = nullptr; // the nearest link before this one that is a clock
+    CallbackAdd* lastClock = nullptr;   // of the chain, known to its head
 };
 
 /// What a named command does: the object whose chain fired (null in a global script), and the link.

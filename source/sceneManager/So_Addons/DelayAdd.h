@@ -17,6 +17,7 @@ protected:
     DelayAdd(AdditionType code, TextReader& stream);
 
     bool fire(SceneObject* owner) override;
+    bool isClock() const override { return true; }
     void advance(SceneObject* owner) override;
     void saveFields(TextWriter& stream) const override;
     /// True if the clock has run out, and with it the link has fired.

@@ -19,8 +19,7 @@ std::string resolve(const std::string& entry) {
     if (entry.size() <= markLength || !entry.starts_with(referenceMark)) {
         return entry;
     }
-    ScriptWords rest{entry.substr(markLength)};
-    return text(takeNumber(rest, -1));
+    return text(numberIn(std::string_view(entry).substr(markLength), -1));
 }
 
 /// The protagonist, if it touches the owner. Null also while it speaks, if that is to be waited

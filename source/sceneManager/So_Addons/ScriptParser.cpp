@@ -16,7 +16,8 @@
 #include <array>
 #include <cassert>
 #include <memory>
-#include <sstream>
+#include <string_view>
+#include <vector>
 
 template <class Link>
 static constexpr Keyword keyword() {
@@ -37,12 +38,25 @@ std::span<const Keyword> keywordTable() {
     return table;
 }
 
+/// The keywords by their words, which are few enough for a search by halves to beat all else.
+static const std::vector<Keyword>& sortedKeywords() {
+    static const std::vector<Keyword> sorted = [] {
+        std::vector<Keyword> table(keywordTable().begin(), keywordTable().end());
+        std::sort(table.begin(), table.end(),
+                  [](const Keyword& a, const Keyword& b) { return a.word < b.word; });
+        return table;
+    }();
+    return sorted;
+}
+
 static CallbackAdd* makeLink(ScriptWords& words) {
-    const auto table = keywordTable();
-    const auto found = std::find_if(table.begin(), table.end(), [&](const Keyword& candidate) {
-        return words.front() == candidate.word;
-    });
-    return found == table.end() ? new CustomCallbackAdd(words) : found->make(words);
+    const auto& table = sortedKeywords();
+    const std::string_view word = words.front();
+    const auto found = std::lower_bound(
+        table.begin(), table.end(), word,
+        [](const Keyword& candidate, std::string_view wanted) { return candidate.word < wanted; });
+    return found == table.end() || found->word != word ? new CustomCallbackAdd(words)
+                                                       : found->make(words);
 }
 
 CallbackAdd* createLink(ScriptWords& words) {
@@ -55,14 +69,11 @@ CallbackAdd* createLink(ScriptWords& words) {
     while (!words.empty()) {
         tail = tail->append(makeLink(words));
     }
+    head->wireClocks();
     return head.release();
 }
 
 CallbackAdd* parseScript(const std::string& text) {
-    ScriptWords words;
-    std::istringstream stream(text);
-    for (std::string word; std::getline(stream, word, ' ');) {
-        words.push_back(word); // two blanks in a row give an empty word, which does nothing
-    }
+    ScriptWords words(text);
     return createLink(words);
 }

@@ -3,10 +3,11 @@
 #include "CallbackAdd.h"
 
 #include <span>
+#include <string_view>
 
 /// One keyword of the script language.
 struct Keyword {
-    const char* word;
+    std::string_view word;
     /// Takes the word and its arguments from the front and gives the link that they describe.
     CallbackAdd* (*make)(ScriptWords& words);
 };

@@ -1,35 +1,39 @@
 #include "ScriptWords.h"
 
+#include <algorithm>
 #include <cassert>
+#include <charconv>
 #include <locale>
+#include <optional>
 #include <sstream>
+
+std::string_view ScriptWords::take() {
+    const std::string_view word = front();
+    rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+    return word;
+}
 
 void takeKeyword(ScriptWords& words, [[maybe_unused]] const char* keyword) {
     assert(!words.empty() && words.front() == keyword);
     if (!words.empty()) {
-        words.pop_front();
+        words.take();
     }
 }
 
 std::string takeWord(ScriptWords& words) {
-    if (words.empty()) {
-        return {};
-    }
-    std::string word = std::move(words.front());
-    words.pop_front();
-    return word;
+    return words.empty() ? std::string() : std::string(words.take());
 }
 
 bool takeOption(ScriptWords& words, const char* option) {
     if (words.empty() || words.front() != option) {
         return false;
     }
-    words.pop_front();
+    words.take();
     return true;
 }
 
 bool takeInnerOption(ScriptWords& words, const char* option) {
-    return words.size() >= 2 && takeOption(words, option);
+    return words.hasSecond() && takeOption(words, option);
 }
 
 std::string takeFileName(ScriptWords& words) {
@@ -40,14 +44,35 @@ std::string takeFileName(ScriptWords& words) {
     return name;
 }
 
+/// Reads a number in plain digits, as nearly all are spelled; a stream for each of them would be
+/// most of the work of reading a script.
 template <class T>
-T takeNumber(ScriptWords& words, T fallback) {
-    std::istringstream stream(takeWord(words));
+static std::optional<T> readPlain(std::string_view word) {
+    if (word.find_first_not_of("0123456789") != std::string_view::npos) {
+        return std::nullopt;
+    }
+    T value{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    return error == std::errc{} ? std::optional(value) : std::nullopt;
+}
+
+template <class T>
+T numberIn(std::string_view text, T fallback) {
+    if (const std::optional<T> plain = readPlain<T>(text)) {
+        return *plain;
+    }
+    std::istringstream stream{std::string(text)};
     stream.imbue(std::locale::classic());
     T value{};
     return stream >> value ? value : fallback;
 }
 
+template <class T>
+T takeNumber(ScriptWords& words, T fallback) {
+    return words.empty() ? fallback : numberIn(words.take(), fallback);
+}
+
+template int numberIn(std::string_view text, int fallback);
 template int takeNumber(ScriptWords& words, int fallback);
 template unsigned takeNumber(ScriptWords& words, unsigned fallback);
 template float takeNumber(ScriptWords& words, float fallback);
