@@ -1,0 +1,112 @@
+#include "support/EngineFixture.h"
+
+#include "PhysicsBodies.h"
+#include "TextStream.h"
+#include "physicsModule/PhysicsModule.h"
+#include "sceneManager/MapFile.h"
+#include "sceneManager/So_Addons/CallbackAdd.h"
+
+namespace {
+
+/// A saved game brings back what runs, in the state in which it stood.
+class SavedMachines : public EngineFixture {
+protected:
+    void SetUp() override {
+        EngineFixture::SetUp();
+        addCallback("A", [this](SceneObject*, So_Addition*) { ++runs; });
+        floor = addBox(0.0F, 0.0F, 50.0F, 10.0F, 0.0F);
+    }
+    void TearDown() override {
+        callbackTable().erase("A");
+        EngineFixture::TearDown();
+    }
+
+    static std::string save() {
+        TextWriter writer;
+        writeScene(writer);
+        return writer.takeText();
+    }
+
+    /// Saves the scene, empties it and reads it back; the text must come out the same.
+    void saveAndLoad() {
+        const std::string text = save();
+        sceneManager().clearScene();
+        TextReader reader(text);
+        sceneManager().addScene(parseScene(reader, false));
+        EXPECT_EQ(save(), text);
+        floor = sceneManager().objects.at(0);
+        runs = 0;
+    }
+
+    SceneObject* floor = nullptr;
+    int runs = 0;
+};
+
+TEST_F(SavedMachines, AClockGoesOnWhereItStood) {
+    floor->addAddition(parseScript("LOCK DELAY 50 A"));
+    step(20);
+    saveAndLoad();
+    step(29);
+    EXPECT_EQ(runs, 0);
+    step();
+    EXPECT_EQ(runs, 1);
+    saveAndLoad();
+    step(100);
+    EXPECT_EQ(runs, 0) << "the lock stays closed";
+}
+
+TEST_F(SavedMachines, APressedPlateDoesNotFireAgainAndFiresWhenItIsLeft) {
+    floor->addAddition(parseScript("STRIGGER A"));
+    addBox(0.0F, 20.0F, 10.0F, 10.0F, 1.0F);
+    step(30);
+    ASSERT_EQ(runs, 1);
+    saveAndLoad();
+    step(30);
+    EXPECT_EQ(runs, 0);
+    sceneManager().objects.at(1)->moveBy(0.0F, 500.0F);
+    step(2);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(SavedMachines, AHalfFadedObjectFadesOnFromWhereItStood) {
+    floor->addAddition(parseScript("OBSCURED -O A"));
+    Player* player = addPlayer(0.0F, 15.0F); // in it by half
+    step(20);
+    const float alpha = alphaOf(*floor->graphicsObject);
+    ASSERT_GT(alpha, 0.5F);
+    ASSERT_LT(alpha, 0.9F);
+    saveAndLoad();
+    EXPECT_NEAR(alphaOf(*floor->graphicsObject), alpha, 1e-5F); // six digits are stored
+    player = sceneManager().objects.at(1)->asPlayer();
+    ASSERT_NE(player, nullptr);
+    player->moveBy(0.0F, 900.0F); // out of sight, but it was seen
+    step(10);
+    EXPECT_NEAR(alphaOf(*floor->graphicsObject), alpha - 0.1F, 0.001F);
+    step(90);
+    EXPECT_EQ(alphaOf(*floor->graphicsObject), 0.0F);
+    EXPECT_EQ(runs, 0) << "told before the save";
+}
+
+TEST_F(SavedMachines, ADialogThatWasHeardStaysClosed) {
+    const auto addDialog = [this](const std::string& record) {
+        TextReader reader(record);
+        floor->addAddition(readAddition(reader));
+    };
+    addDialog("0 1 1 0 2 hm 2 ");
+    Player* player = addPlayer(0.0F, 25.0F);
+    player->type = sceneObjectType::testPlayer; // only the protagonist is spoken to
+    step(30);
+    ASSERT_FALSE(player->isSpeaking());
+    player->type = sceneObjectType::player;
+    saveAndLoad();
+    player = sceneManager().objects.at(1)->asPlayer();
+    player->type = sceneObjectType::testPlayer;
+    sceneManager().player = player;
+    step(5);
+    EXPECT_FALSE(player->isSpeaking());
+    floor->additions.at(0)->unlock();
+    step();
+    EXPECT_TRUE(player->isSpeaking());
+}
+
+} // namespace
