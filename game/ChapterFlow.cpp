@@ -60,7 +60,9 @@ void takeControl(Player& player) {
     PhysicsObject& physics = *player.physicsObject;
     physics.previousTransform = physics.body->getWorldTransform();
     physics.renderTransform = physics.previousTransform;
-    player.statistics.health = fullHealth;
+    PlayerStatistics statistics = player.statistics;
+    statistics.health = fullHealth;
+    player.setStatistics(statistics); // so that what a save lacks or exceeds is no wound
     sceneManager().player = &player;
     followWithCamera(player);
     levelRunning = 1;

@@ -2,7 +2,7 @@
 
 class Player;
 
-/// The protagonist of the scene: the character that the map brought, or else a new one at the
+/// The protagonist of the scene: the last one that the map brought, or else a new one at the
 /// object named STARTPOS. The scene owns it.
 /// @throws std::string if the map has neither
 Player& placeProtagonist();

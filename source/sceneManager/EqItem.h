@@ -23,6 +23,11 @@ public:
     virtual bool hangsOnLooseObject() const { return false; }
     /// Leaps off what is held; false if nothing is.
     virtual bool leapOff() { return false; }
+    /// Where the arm points that holds something, in radians from straight up, counter-clockwise.
+    /// False, and the angle as it was, if nothing is held.
+    virtual bool holdAngle(float& /*angle*/) const { return false; }
+    /// Whether the item wants to take hold and has found nothing yet: the arm points at the aim.
+    virtual bool isReaching() const { return false; }
 
     Equipment* equipment = nullptr; ///< Null until added; not owned.
 };

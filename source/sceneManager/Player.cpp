@@ -1,5 +1,6 @@
 #include "Player.h"
 
+#include "Aim.h"
 #include "EqItem.h"
 #include "Equipment.h"
 #include "SceneManager.h"
@@ -20,16 +21,6 @@ constexpr float contactThreshold = 0.1F; // world units between shapes that stil
 constexpr float waterShare = 0.9F;       // of the body's size that counts in water
 constexpr float supportFade = 0.99F;     // of a lost support's velocity that a step leaves
 constexpr float initialGaze = 50.0F;     // world units to the right
-
-/// Angle of a direction from straight up, negative towards the right, radians.
-float angleFromUp(const btVector3& direction) {
-    const float length = direction.length();
-    if (!(length > 0.0F)) {
-        return 0.0F;
-    }
-    const float angle = std::acos(std::clamp(direction.y() / length, -1.0F, 1.0F));
-    return direction.x() > 0.0F ? -angle : angle;
-}
 
 } // namespace
 

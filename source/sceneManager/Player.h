@@ -86,13 +86,14 @@ protected:
     btVector3 supportVelocity{0, 0, 0};
     btVector3 walkTarget{0, 0, 0}; ///< Zero means none.
 
+    btRigidBody& body() const;
+
 private:
     struct Line {
         std::string text;
         int frames;
     };
     void setUpBody();
-    btRigidBody& body() const;
 
     void scanContacts(float threshold);
     void blockSides(const FootContact& contact);

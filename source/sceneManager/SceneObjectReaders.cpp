@@ -3,6 +3,7 @@
 #include "DestructionObject.h"
 #include "Forcefield.h"
 #include "Player.h"
+#include "TestPlayer.h"
 
 #include <array>
 
@@ -16,6 +17,10 @@ SceneObject* readPlayer(TextReader& stream, const SceneParts& parts) {
     return Player::load(stream, parts);
 }
 
+SceneObject* readTestPlayer(TextReader& stream, const SceneParts& parts) {
+    return TestPlayer::load(stream, parts);
+}
+
 struct Row {
     int type;
     SceneObjectReader read;
@@ -27,6 +32,7 @@ constexpr std::array readers{
     Row{sceneObjectType::player, readPlayer},
     Row{sceneObjectType::destruction, DestructionObject::load},
     Row{sceneObjectType::forcefield, Forcefield::load},
+    Row{sceneObjectType::testPlayer, readTestPlayer},
 };
 
 } // namespace

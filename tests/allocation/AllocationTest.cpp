@@ -7,6 +7,7 @@
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
+#include "sceneManager/TestPlayer.h"
 
 #include <LinearMath/btAlignedAllocator.h>
 
@@ -91,7 +92,8 @@ protected:
     }
     void prepareDirectory() override {
         EngineFixture::prepareDirectory();
-        for (const char* name : {"bell", "hum", "squeak", "thud", "roll"}) {
+        for (const char* name :
+             {"bell", "hum", "squeak", "thud", "roll", "foot0", "foot1", "heart"}) {
             directory.write("sound/" + std::string(name) + ".wav", "");
         }
     }
@@ -120,4 +122,24 @@ TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
         inputModule().update();
     }
     EXPECT_EQ(allocations, 0U) << "in a poll of the input";
+}
+
+TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {
+    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 400, 5000, 50)));
+    auto* player = new TestPlayer;
+    sceneManager().addSceneObject(player);
+    sceneManager().player = player;
+    const auto walk = [player](std::uint32_t key) {
+        player->keys = key;
+        for (int i = 0; i < 120; ++i) {
+            physicsModule().update();
+        }
+        graphicsModule().update();
+    };
+    walk(playerKey::left);
+    walk(playerKey::right | playerKey::up);
+    allocations = 0;
+    walk(playerKey::left);
+    walk(playerKey::right | playerKey::up);
+    EXPECT_EQ(allocations, 0U);
 }

@@ -25,6 +25,7 @@ const std::string placed = "1 " + polygon + "0 100 50 1 0 0 1 1 ";
 const std::string bound = "2 " + polygon + "0 1 ";
 const std::string animated = "2 " + polygon + sprite + "0 ";
 const std::string group = "3 2 " + bound + "3 1 " + bound;
+const std::string fourParts = "3 4 " + bound + bound + bound + bound;
 const std::string mesh = "4 6 0 0 1 1 1 1 0 0 9 0 1 1 1 1 1 0 0 9 1 1 1 1 0 1 unknown 1 0 0 ";
 
 const std::string box = "17 0.5 0 0 10 2 100 50 1 0 0 1 0 0 1 1 0.7 ";
@@ -62,7 +63,7 @@ std::string chainRecord() {
 
 /// A map with every kind of graphics, shape, class and joint, and a chain of every word.
 std::string everyRecord() {
-    return "8 0 " + placed + noBody + "1 2 30 " +       // 0: scenery with hit points
+    return "9 0 " + placed + noBody + "1 2 30 " +       // 0: scenery with hit points
            "-1 " + group + noBody + "0 " +              // 1
            "0 " + mesh + box + "1 " + chainRecord() +   // 2
            "0 " + animated + disc + "0 " +              // 3
@@ -70,6 +71,7 @@ std::string everyRecord() {
            "1 " + bound + swimmer + "0 " + statistics + // 5: a character
            "2 " + bound + compound + "0 2 -7 8 9 10 " + // 6: with marks
            "3 " + bound + passable + "0 0.5 1 " +       // 7: a force field
+           "4 " + fourParts + swimmer + "1 23 " + statistics + "412 " + // 8: the protagonist
            "4 " + worldHinge + hinge + spring + worldSpring + "0.1 0.2 0.3 0  ";
 }
 
@@ -125,7 +127,7 @@ protected:
 
 TEST_F(MapFileTest, EveryRecordComesBackAsItWas) {
     sceneManager().addScene(parse(everyRecord()));
-    ASSERT_EQ(sceneManager().objects.size(), 8U);
+    ASSERT_EQ(sceneManager().objects.size(), 9U);
     ASSERT_EQ(physicsModule().getJoints().size(), 4U);
     EXPECT_EQ(save(), everyRecord());
 
@@ -196,6 +198,10 @@ TEST_F(MapFileTest, RecordsThatCannotBelongTogetherAreRefused) {
     EXPECT_NE(failureOf("1 0 " + placed + noBody + "1 6 1 a 0 " + end), ""); // a name, no body
     EXPECT_NE(failureOf("1 3 " + placed + noBody + "0 0 1 0 " + end), "");   // a field, no body
     EXPECT_NE(failureOf("1 1 " + placed + noBody + "0 " + statistics + "0 " + end), "");
+    EXPECT_EQ(failureOf("1 4 " + fourParts + swimmer + "0 " + statistics + "0 0 " + end), "");
+    EXPECT_NE(failureOf("1 4 " + fourParts + swimmer + "0 " + statistics + "-1 0 " + end), "");
+    EXPECT_NE(failureOf("1 4 " + group + swimmer + "0 " + statistics + "0 0 " + end), "");
+    EXPECT_NE(failureOf("1 4 " + bound + swimmer + "0 " + statistics + "0 0 " + end), "");
     EXPECT_NE(failureOf("1 6 " + bound + disc + "0 0 " + end), ""); // no such class
     EXPECT_EQ(failureOf("1 " + body + "1 7 " + end), "");           // no such joint: none
 }

@@ -11,11 +11,12 @@ using shape::ramp;
 
 namespace {
 
-constexpr Colour furDeep{0.090f, 0.080f, 0.175f};
-constexpr Colour fur{0.245f, 0.215f, 0.415f};
-constexpr Colour furLight{0.47f, 0.45f, 0.70f};
-constexpr Colour rimLight{0.74f, 0.78f, 0.96f};
-constexpr Colour iris{0.86f, 0.50f, 0.20f};
+constexpr Colour furDeep{0.150f, 0.110f, 0.225f};
+constexpr Colour fur{0.410f, 0.330f, 0.550f};
+constexpr Colour furLight{0.700f, 0.620f, 0.850f};
+constexpr Colour rimLight{0.970f, 0.940f, 1.000f};
+constexpr Colour iris{0.90f, 0.54f, 0.20f};
+constexpr Colour rose{0.86f, 0.42f, 0.46f};
 
 // The game shows a part without the outermost fortieth of its picture.
 constexpr float margin = 0.025f;
@@ -65,7 +66,7 @@ Colour furColour(float height, float depth, float tuft) {
     Colour c = mix(furDeep, fur, ramp(-1.0f, 0.35f, height));
     c = mix(c, furLight, 0.55f * ramp(0.1f, 1.05f, height));
     c = c * mix(0.72f, 1.22f, tuft);
-    float rim = ramp(1.9f, 0.1f, depth) * mix(0.34f, 0.95f, ramp(-0.5f, 0.8f, height));
+    float rim = ramp(1.9f, 0.1f, depth) * mix(0.46f, 1.0f, ramp(-0.5f, 0.8f, height));
     return mix(c, rimLight, rim * mix(0.75f, 1.0f, tuft));
 }
 
@@ -85,7 +86,7 @@ void paintEye(Canvas& canvas, const Units& units, const Noise& noise) {
         return ball.fade(units.coverage(d));
     });
     layer(canvas, units, [&](float x, float y) {
-        float d = shape::disc(x - px, y - py, 3.8f);
+        float d = shape::disc(x - px, y - py, 4.0f);
         float spoke = noise.value(std::atan2(y - py, x - px) / 6.2831853f + 0.5f, 0.5f, {40, 1});
         Colour c = mix(iris, iris * 0.55f, ramp(-1.0f, 0.9f, (y - py) / 3.5f));
         c = mix(c, Colour{1.0f, 0.78f, 0.42f}, 0.75f * ramp(0.2f, -3.0f, y - py)) *
@@ -94,10 +95,10 @@ void paintEye(Canvas& canvas, const Units& units, const Noise& noise) {
         return c.fade(units.coverage(d));
     });
     layer(canvas, units, [&](float x, float y) {
-        return Colour{0.02f, 0.018f, 0.04f, units.coverage(shape::disc(x - px, y - py, 2.45f))};
+        return Colour{0.02f, 0.018f, 0.04f, units.coverage(shape::disc(x - px, y - py, 2.75f))};
     });
     layer(canvas, units, [&](float x, float y) {
-        float big = units.coverage(shape::ellipse(x - px + 1.1f, y - py - 1.55f, 1.25f, 1.05f));
+        float big = units.coverage(shape::ellipse(x - px + 1.1f, y - py - 1.55f, 1.4f, 1.2f));
         float small = 0.7f * units.coverage(shape::disc(x - px - 1.25f, y - py + 1.4f, 0.5f));
         return Colour{1, 1, 1, std::max(big, small)};
     });
@@ -122,30 +123,33 @@ void paintMouth(Canvas& canvas, const Units& units) {
         return c.fade(std::max(0.5f * units.coverage(lip), units.coverage(line)));
     });
     layer(canvas, units, [&](float x, float y) {
-        float blush = ramp(1.0f, 0.0f, shape::ellipse(x - 1.9f, y + 3.0f, 1.6f, 1.0f));
-        return palette::rust.fade(0.35f * blush);
+        float blush = ramp(1.3f, -0.6f, shape::ellipse(x + 0.9f, y + 3.7f, 1.7f, 1.0f));
+        return rose.fade(0.38f * blush);
     });
 }
 
 // The near leg has a haunch that lies on the body and melts into its fur; the far leg comes out
-// of the shade under it. Both reach well into the body, since a jump pulls them out of it.
+// of the shade under it. Both reach well into the body, since a leap pulls them ten units out.
 void paintLeg(Canvas& canvas, std::uint32_t seed, float hipX, bool near) {
     Noise noise(seed);
     Units units(canvas, 15);
     layer(canvas, units, [&](float x, float y) {
-        float shin = shape::capsule(x, y, hipX + 0.5f, -4.2f, hipX - 0.2f, -12.0f, 3.2f, 2.1f);
-        float foot = shape::ellipse(x - hipX + 1.3f, y + 12.6f, 4.6f, 2.45f);
-        float d = std::max(shape::blend(shin, foot, 1.6f), -15.0f - y);
-        float height = ramp(-15.0f, -9.5f, y) * 2 - 1;
-        float up = ramp(-10.5f, -6.0f, y);
-        Colour c = furColour(mix(0.5f * height - 0.1f, -0.35f, up), mix(-d, 9.0f, up),
+        float thigh = shape::capsule(x, y, hipX + 2.2f, 2.6f, hipX + 0.2f, -7.0f, 2.3f, 3.1f);
+        float shin = shape::capsule(x, y, hipX + 0.3f, -6.0f, hipX - 0.1f, -11.2f, 3.1f, 2.2f);
+        float foot = shape::ellipse(x - hipX + 1.5f, y + 11.7f, 4.7f, 2.45f);
+        float leg = shape::blend(std::min(thigh, shin), foot, 1.8f);
+        float d = std::max(leg, -14.1f - y);
+        float up = ramp(-10.0f, -5.5f, y); // from the foot to what the body covers
+        float height = ramp(-14.2f, -9.0f, y) * 2 - 1;
+        Colour c = furColour(mix(0.6f * height, -0.30f, up), mix(-d, 4.0f, up),
                              furAt(noise, x - hipX, y + 16));
-        float toe = std::min(std::abs(x - hipX + 4.6f), std::abs(x - hipX + 3.0f)) - 0.18f;
-        c = mix(c, furDeep * 0.5f, 0.8f * units.coverage(toe) * ramp(-12.2f, -13.4f, y));
+        float toe = std::min(std::abs(x - hipX + 4.9f), std::abs(x - hipX + 3.2f)) - 0.2f;
+        c = mix(c, furDeep * 0.5f, 0.75f * units.coverage(toe) * ramp(-11.3f, -12.6f, y));
         if (!near) {
-            c = mix(c * 0.66f, furDeep * 0.5f, up);
+            return (mix(c, furDeep, 0.35f) * mix(0.72f, 0.62f, up)).fade(units.coverage(d));
         }
-        return c.fade(units.coverage(d) * (near ? ramp(-3.5f, -8.5f, y) : 1.0f));
+        float melt = ramp(4.6f, 1.4f, y) * mix(1.0f, ramp(0.2f, -1.5f, d), up);
+        return c.fade(std::min(units.coverage(d), melt));
     });
 }
 
@@ -160,15 +164,15 @@ void paintBody(Canvas& canvas, std::uint32_t seed) {
         float ragged = 0.55f * (noise.value(angle, 0, {70, 1}) - 0.5f) +
                        0.5f * noise.gradient(angle, 0.3f, {14, 1});
         float d = shape::ellipse(x, cy, 12.6f, 11.4f) + ragged;
-        // Three hairs stand up on the head.
-        float tuft = std::min({shape::capsule(x, y, 0.2f, 12.5f, -1.6f, 15.4f, 1.1f, 0.25f),
-                               shape::capsule(x, y, 0.6f, 12.5f, 1.0f, 15.9f, 1.2f, 0.25f),
-                               shape::capsule(x, y, 1.2f, 12.5f, 3.6f, 14.9f, 1.1f, 0.25f)});
+        // A forelock, blown back.
+        float tuft = std::min({shape::capsule(x, y, -1.2f, 12.0f, 0.4f, 15.7f, 1.7f, 0.2f),
+                               shape::capsule(x, y, 0.6f, 12.2f, 3.3f, 15.6f, 1.7f, 0.2f),
+                               shape::capsule(x, y, 2.2f, 12.0f, 6.0f, 14.4f, 1.5f, 0.2f)});
         d = shape::blend(d, tuft, 0.8f);
         Colour c = furColour(cy / 11.4f - 0.12f * x / 12, -d, furAt(noise, x, cy));
         // The belly is softer and lighter.
-        c = mix(c, furLight * 0.85f,
-                0.28f * ramp(7.0f, 1.5f, std::hypot((x + 3.5f) * 0.8f, (y + 5.0f) * 1.3f)));
+        c = mix(c, furLight * 0.92f,
+                0.42f * ramp(7.5f, 1.0f, std::hypot((x + 3.5f) * 0.8f, (y + 4.6f) * 1.25f)));
         return c.fade(units.coverage(d));
     });
     paintEye(canvas, units, noise);
@@ -195,14 +199,20 @@ void paintArm(Canvas& canvas, std::uint32_t seed) {
                 width;
             float y =
                 (static_cast<float>(row) + 0.5f) / static_cast<float>(canvas.height()) * length;
-            float arm = shape::capsule(x, y, 0, 3, 0, 14, 1.35f, 1.55f);
-            float hand = shape::disc(x, y - 15.0f, 2.45f);
-            float thumb = shape::capsule(x, y, 1.4f, 13.8f, 2.5f, 15.2f, 0.7f, 0.6f);
-            float d = shape::blend(shape::blend(arm, hand, 1.2f), thumb, 0.6f);
-            float tuft = furAt(noise, x, y + 4);
-            Colour c = furColour(0.25f + 0.03f * y, -d, tuft);
             float pixel = width / static_cast<float>(canvas.width());
-            canvas.over(column, row, c.fade(shape::coverage(d / pixel) * ramp(3.5f, 8.5f, y)));
+            float ragged = 0.35f * noise.gradient(x > 0 ? 0.3f : 0.7f, y / length, {4, 14});
+            float arm = shape::capsule(x, y, 0, 4, 0, 12, 2.5f, 1.75f) + ragged;
+            float hand = shape::ellipse(x, y - 13.5f, 2.45f, 2.5f);
+            float thumb = shape::capsule(x, y, 1.2f, 12.2f, 2.7f, 13.4f, 0.8f, 0.65f);
+            float d = shape::blend(shape::blend(arm, hand, 1.5f), thumb, 0.5f);
+            Colour c = furColour(0.02f * y, -1.9f * d, furAt(noise, x, y + 4));
+            float finger = std::abs(std::abs(x) - 0.85f) - 0.16f;
+            c = mix(c, furDeep, 0.7f * shape::coverage(finger / pixel) * ramp(14.0f, 15.0f, y));
+            // A shade round it lifts the arm off the body.
+            Colour shade = furDeep.fade(0.55f * ramp(0.9f, -0.2f, d));
+            float shoulder = ramp(3.0f, 8.0f, y);
+            canvas.over(column, row, shade.fade(shade.a * shoulder));
+            canvas.over(column, row, c.fade(shape::coverage(d / pixel) * shoulder));
         }
     }
 }

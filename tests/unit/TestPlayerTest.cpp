@@ -1,0 +1,390 @@
+#include "sceneManager/TestPlayer.h"
+
+#include "support/EngineFixture.h"
+
+#include "PhysicsBodies.h"
+#include "TextStream.h"
+#include "graphicsModule/Camera.h"
+#include "graphicsModule/LightReaderAdd.h"
+#include "graphicsModule/MultiGraphics.h"
+#include "graphicsModule/ParticleEmiter.h"
+#include "graphicsModule/Yaw.h"
+#include "physicsModule/PhysicsModule.h"
+#include "sceneManager/EqItem.h"
+#include "sceneManager/Equipment.h"
+#include "sceneManager/MapFile.h"
+#include "soundModule/SoundManager.h"
+
+#include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
+
+#include <cmath>
+
+namespace {
+
+constexpr float quarterTurn = 1.5707964F;
+
+/// The protagonist on the middle of a wide floor whose top is at 0, with the camera on it.
+class TestPlayerTest : public EngineFixture {
+protected:
+    void prepareDirectory() override {
+        EngineFixture::prepareDirectory();
+        for (const char* name : {"foot0", "foot1", "breath", "gulp0", "gulp1", "gulp2", "uh0",
+                                 "uh1", "uh2", "dying0", "dying1", "dying2", "diewater", "heart"}) {
+            directory.write("sound/" + std::string(name) + ".wav", "");
+        }
+    }
+
+    void SetUp() override {
+        EngineFixture::SetUp();
+        addBox(0.0F, -50.0F, 5000.0F, 50.0F, 0.0F);
+        player = new TestPlayer;
+        placeAt(0.0F, 15.0F);
+        sceneManager().addSceneObject(player);
+        sceneManager().player = player;
+        step(41);
+        heard();
+    }
+
+    btRigidBody& body() const { return *player->physicsObject->body; }
+    void placeAt(float x, float y) const {
+        body().getWorldTransform().setOrigin({x, y, 0.0F});
+        body().setLinearVelocity({0.0F, 0.0F, 0.0F});
+    }
+    void run(float speed) const { body().setLinearVelocity({speed, 0.0F, 0.0F}); }
+
+    LightReaderAdd& reader() const {
+        return static_cast<LightReaderAdd&>(*player->findAddition(AdditionType::lightReader));
+    }
+    void light(int red, int green, int blue) const {
+        reader().red = static_cast<std::uint8_t>(red);
+        reader().green = static_cast<std::uint8_t>(green);
+        reader().blue = static_cast<std::uint8_t>(blue);
+    }
+
+    /// Where the ears are: so far from the body that no sound loses anything on its way.
+    void listenAt(float shift) const {
+        graphicsModule().camera->setX(originOf(*player).x() + shift);
+        graphicsModule().camera->setY(originOf(*player).y());
+    }
+    /// What runs, with the digit of a sound by chance as N. It ends with the question.
+    std::string heard() const {
+        std::string text = mixer->running();
+        for (const char* family : {"gulp", "uh", "dying"}) {
+            if (const auto place = text.find(family); place != std::string::npos) {
+                text[place + std::string(family).size()] = 'N';
+            }
+        }
+        for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+            mixer->endSound(channel);
+        }
+        return text;
+    }
+    /// What an update of the character alone makes to be heard.
+    std::string heardInUpdate() const {
+        listenAt(0.0F);
+        player->update();
+        return heard();
+    }
+
+    static std::size_t dropsOfBlood() {
+        std::size_t drops = 0;
+        for (const GraphicsObject* object : graphicsModule().getObjects()) {
+            const auto* emiter = dynamic_cast<const ParticleEmiter*>(object);
+            if (emiter != nullptr && emiter->params.colour[0] == 1.0F) {
+                drops += emiter->getParticles().size();
+            }
+        }
+        return drops;
+    }
+
+    PhysicsGraphicsObject& part(std::size_t index) const {
+        return static_cast<PhysicsGraphicsObject&>(
+            *static_cast<MultiGraphics&>(*player->graphicsObject).getChildren().at(index));
+    }
+    float height(std::size_t index) const { return part(index).localTransform.getOrigin().y(); }
+    float across(std::size_t index) const { return part(index).localTransform.getOrigin().x(); }
+    float armAngle() const {
+        const Yaw yaw = yawOf(part(3).localTransform);
+        return std::atan2(yaw.sine, yaw.cosine);
+    }
+    void poseAt(std::uint32_t step) const {
+        physicsModule().stepCount = step;
+        player->update();
+    }
+
+    TestPlayer* player = nullptr;
+};
+
+/// Holds at an angle or reaches.
+class Grip : public EqItem {
+public:
+    int getType() const override { return 2; }
+    bool holdAngle(float& angle) const override {
+        angle = holds ? 0.3F : angle;
+        return holds;
+    }
+    bool isReaching() const override { return true; }
+    bool holds = true;
+};
+
+} // namespace
+
+TEST_F(TestPlayerTest, FeetFallTwiceInAStrideAsLoudAsTheyMove) {
+    const auto stepAt = [this](std::uint32_t count, float speed) {
+        physicsModule().stepCount = count;
+        run(speed);
+        const float shift = std::abs(speed) > 250.0F ? 0.0F : 0.01F;
+        listenAt(speed < 0.0F ? -shift : shift); // where the step ends
+        speed < 0.0F ? player->moveLeft() : player->moveRight();
+        return heard();
+    };
+    EXPECT_EQ(stepAt(400, -250.0F), "foot0.wav 34");
+    EXPECT_EQ(stepAt(420, -250.0F), "foot1.wav 34");
+    EXPECT_EQ(stepAt(400, 250.0F), "foot1.wav 34");
+    EXPECT_EQ(stepAt(420, 250.0F), "foot0.wav 34");
+    EXPECT_EQ(stepAt(400, -125.0F), "foot0.wav 20"); // which a step has made 150
+    EXPECT_EQ(stepAt(400, -1500.0F), "foot0.wav 100");
+    EXPECT_EQ(stepAt(410, -250.0F), "");
+    player->statistics.speed = 0.0F;
+    stepAt(400, -1.0F);
+    player->statistics.speed = 250.0F;
+    player->supportNow = nullptr;
+    EXPECT_EQ(stepAt(400, -250.0F), "");
+}
+
+TEST_F(TestPlayerTest, FeetThatKeepUpWithTheGroundMakeNoSound) {
+    SceneObject* raft = addBox(0.0F, 490.0F, 1000.0F, 10.0F, 1000.0F);
+    btRigidBody& raftBody = *raft->physicsObject->body;
+    raftBody.setGravity({0.0F, 0.0F, 0.0F});
+    raftBody.setLinearFactor({1.0F, 0.0F, 0.0F});
+    raftBody.setAngularFactor({0.0F, 0.0F, 0.0F});
+    raftBody.setLinearVelocity({-250.0F, 0.0F, 0.0F});
+    placeAt(0.0F, 515.0F);
+    step(2);
+    ASSERT_EQ(player->supportNow, raft);
+    physicsModule().stepCount = 400;
+    run(-250.0F);
+    heard();
+    player->moveLeft();
+    EXPECT_EQ(heard(), "");
+}
+
+TEST_F(TestPlayerTest, TakeOffAndLandingSoundOnBothFeet) {
+    listenAt(0.0F);
+    ASSERT_TRUE(player->jump());
+    EXPECT_EQ(heard(), "foot0.wav 60 foot1.wav 60");
+    EXPECT_FALSE(player->jump());
+    EXPECT_EQ(heard(), "");
+
+    placeAt(0.0F, 15.0F);
+    step(1);
+    heard();
+    const std::pair<float, const char*> landings[] = {{50.0F, ""},
+                                                      {59.0F, "foot0.wav 5 foot1.wav 5"},
+                                                      {400.0F, "foot0.wav 40 foot1.wav 40"},
+                                                      {1000.0F, "foot0.wav 80 foot1.wav 80"}};
+    for (const auto& [impulse, sounds] : landings) {
+        player->physicsObject->contacts.at(0)->getContactPoint(0).m_appliedImpulse = impulse;
+        EXPECT_EQ(heardInUpdate(), sounds) << impulse;
+    }
+    player->clearAdditions(); // no heart
+    placeAt(0.0F, 200.0F);
+    step(2);
+    heard();
+    std::string fall;
+    for (int i = 0; i < 100; ++i) {
+        listenAt(0.0F);
+        step(1);
+        fall += heard();
+    }
+    EXPECT_EQ(fall, "foot0.wav 45 foot1.wav 45"); // at 450 units a second
+}
+
+TEST_F(TestPlayerTest, DarknessFeedsFearAndLightCalms) {
+    SoundManager& sounds = soundManager();
+    sounds.fearPeriod = 200.0F;
+    sounds.fearLevel = 7;
+    sounds.heartVolume = 10.0F;
+    sounds.heartCount = 0;
+    light(89, 0, 0); // 29 in the mean
+    player->update();
+    EXPECT_NEAR(sounds.fearPeriod, 199.9F, 1e-4F);
+    EXPECT_EQ(sounds.fearLevel, 8);
+    EXPECT_NEAR(sounds.heartVolume, 10.2F, 1e-4F);
+    light(250, 100, 100);
+    player->update();
+    EXPECT_NEAR(sounds.fearPeriod, 200.2F, 1e-4F);
+    EXPECT_EQ(sounds.fearLevel, 8);
+    EXPECT_NEAR(sounds.heartVolume, 10.0F, 1e-4F);
+    EXPECT_EQ(sounds.heartCount, 2);
+    player->waterCount = 1; // nobody pants under water
+    light(0, 0, 90);
+    player->update();
+    EXPECT_EQ(sounds.fearLevel, 0);
+}
+
+TEST_F(TestPlayerTest, TheHeartBeatsLoudestAfterTenSecondsInTheDarkAndStopsWithItsOwner) {
+    SoundManager& sounds = soundManager();
+    light(0, 0, 0);
+    sounds.heartVolume = 0.0F;
+    step(600);
+    EXPECT_NEAR(sounds.heartVolume, 120.0F, 0.1F);
+    step(2000);
+    EXPECT_EQ(sounds.heartVolume, 128.0F);
+    EXPECT_EQ(sounds.fearPeriod, 60.0F);
+    EXPECT_EQ(sounds.fearLevel, 40);
+    EXPECT_NE(mixer->running().find("heart.wav 128 for ever"), std::string::npos);
+    sceneManager().removeSceneObject(player);
+    EXPECT_EQ(sounds.fearPeriod, 300.0F);
+    EXPECT_EQ(sounds.fearLevel, 0);
+    EXPECT_EQ(sceneManager().player, nullptr);
+    step(1);
+    EXPECT_EQ(mixer->running(), "");
+}
+
+TEST_F(TestPlayerTest, AirLastsFourHundredStepsAndArmourIsNoHelp) {
+    player->clearAdditions(); // no heart
+    player->waterCount = 1;
+    player->statistics.armor = 50.0F;
+    std::string gulps;
+    for (int i = 1; i <= 800; ++i) {
+        if (const std::string sounds = heardInUpdate(); !sounds.empty()) {
+            gulps += std::to_string(i) + " " + sounds + ", ";
+        }
+    }
+    EXPECT_EQ(gulps, "420 gulpN.wav 128, 480 gulpN.wav 128, 540 gulpN.wav 128, 600 gulpN.wav 128, "
+                     "660 gulpN.wav 64, 720 gulpN.wav 64, 780 gulpN.wav 64, ");
+    EXPECT_EQ(player->statistics.health, 10);
+    EXPECT_EQ(dropsOfBlood(), 0U);
+}
+
+TEST_F(TestPlayerTest, TheDrownedDieWithoutACry) {
+    player->clearAdditions();
+    player->waterCount = 1;
+    PlayerStatistics weak;
+    weak.health = 20;
+    player->setStatistics(weak);
+    player->waterSteps = 659;
+    step(1);
+    EXPECT_EQ(heard(), "gulpN.wav 64 diewater.wav 128");
+    EXPECT_EQ(dropsOfBlood(), 0U);
+    EXPECT_EQ(sceneManager().player, nullptr);
+}
+
+TEST_F(TestPlayerTest, TheGaspOfComingUpGrowsWithTheDive) {
+    player->clearAdditions();
+    const std::pair<int, const char*> dives[] = {
+        {10, ""}, {50, ""}, {300, "breath.wav 64"}, {413, "breath.wav 100"}};
+    for (const auto& [steps, sound] : dives) {
+        player->waterSteps = steps;
+        EXPECT_EQ(heardInUpdate(), sound) << steps;
+        EXPECT_EQ(player->waterSteps, 0);
+    }
+}
+
+TEST_F(TestPlayerTest, AWoundCriesAndBleedsAndDeathDoesMoreSo) {
+    player->clearAdditions();
+    const std::pair<int, std::size_t> wounds[] = {{3, 3}, {4, 1}, {100, 25}};
+    for (const auto& [damage, drops] : wounds) {
+        PlayerStatistics fresh;
+        player->setStatistics(fresh);
+        EXPECT_EQ(heardInUpdate(), "");
+        const std::size_t before = dropsOfBlood();
+        player->hurt(damage);
+        EXPECT_EQ(heardInUpdate(), "uhN.wav 128") << damage;
+        EXPECT_EQ(dropsOfBlood() - before, drops) << damage;
+        EXPECT_EQ(heardInUpdate(), "");
+    }
+    const std::size_t before = dropsOfBlood();
+    player->hurt(1);
+    player->update();
+    EXPECT_EQ(heard(), "dyingN.wav 128");
+    EXPECT_EQ(dropsOfBlood() - before, 40U);
+    EXPECT_EQ(sceneManager().debrisCount(), 4U);
+    sceneManager().flushRemovals();
+    EXPECT_EQ(sceneManager().player, nullptr);
+}
+
+TEST_F(TestPlayerTest, LooksWhereItWalksAndKeepsLookingThere) {
+    const auto firstU = [this](std::size_t index) {
+        return part(index).getData().texcoords.front();
+    };
+    const float arm = firstU(3);
+    EXPECT_EQ(firstU(1), 0.025F);
+    EXPECT_NEAR(armAngle(), -quarterTurn, 1e-4F);
+    player->keys = playerKey::right;
+    player->update();
+    player->keys = 0;
+    player->update();
+    for (const std::size_t index : {0U, 1U, 2U}) {
+        EXPECT_EQ(firstU(index), 0.975F);
+    }
+    EXPECT_EQ(firstU(3), arm);
+    EXPECT_NEAR(armAngle(), quarterTurn, 1e-4F);
+    player->keys = playerKey::left | playerKey::right;
+    player->update();
+    EXPECT_EQ(firstU(0), 0.025F);
+}
+
+TEST_F(TestPlayerTest, PartsFollowTheClock) {
+    poseAt(1000);
+    EXPECT_NEAR(height(1), std::sin(1000.0 / 11.309733) * 1.4, 1e-4); // breathing at rest
+    EXPECT_EQ(height(3), height(1));
+    EXPECT_EQ(across(0), -1.0F);
+    EXPECT_EQ(across(2), 1.0F);
+
+    player->keys = playerKey::left;
+    poseAt(1030); // a quarter of a cycle on from the middle
+    EXPECT_NEAR(height(0), -3.0F, 0.01F);
+    EXPECT_NEAR(height(2), 3.0F, 0.01F);
+    EXPECT_NEAR(height(1), 2.0F * std::cos(40.0F / 6.2831855F), 1e-4F);
+    EXPECT_NEAR(armAngle(), -quarterTurn + 0.2F * std::cos(50.0F / 6.2831855F), 1e-4F);
+    poseAt(1060);
+    EXPECT_NEAR(across(0), -3.0F, 1e-4F);
+    EXPECT_NEAR(across(2), 3.0F, 1e-4F);
+
+    player->keys = 0;
+    ASSERT_TRUE(player->jump());
+    poseAt(1070);
+    EXPECT_NEAR(height(0), -3.5F, 1e-4F);
+    EXPECT_NEAR(height(2), -3.5F, 1e-4F);
+    player->noLegTuck = true;
+    poseAt(1071);
+    EXPECT_EQ(height(0), 0.0F);
+}
+
+TEST_F(TestPlayerTest, TheArmPointsAtWhatItHoldsOrReachesFor) {
+    auto* grip = new Grip;
+    player->equipment->add(grip);
+    grip->select();
+    player->update();
+    EXPECT_NEAR(armAngle(), 0.3F, 1e-4F);
+    grip->holds = false;
+    player->aimPoint = originOf(*player) + btVector3(20.0F, 20.0F, 0.0F);
+    player->update();
+    EXPECT_NEAR(armAngle(), -quarterTurn / 2.0F, 1e-4F);
+}
+
+TEST_F(TestPlayerTest, ARecordBringsItBackAsItWas) {
+    player->keys = playerKey::right;
+    player->update();
+    player->waterSteps = 300;
+    player->statistics.health = 55;
+    TextWriter written;
+    player->save(written);
+    TextReader reader(written.text());
+    auto* copy = dynamic_cast<TestPlayer*>(readSceneObject(reader));
+    ASSERT_NE(copy, nullptr);
+    sceneManager().addSceneObject(copy);
+    TextWriter again;
+    copy->save(again);
+    EXPECT_EQ(again.text(), written.text());
+    EXPECT_EQ(copy->physicsObject->body->getLinearDamping(), 0.5F);
+    EXPECT_TRUE(copy->physicsObject->body->hasAnisotropicFriction());
+    heard();
+    copy->update(); // looks right still, and takes the stored health for no wound
+    EXPECT_EQ(heard(), "breath.wav 64");
+    TextWriter later;
+    copy->graphicsObject->write(later);
+    EXPECT_NE(written.text().find(later.text()), std::string::npos);
+}
