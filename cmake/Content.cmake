@@ -43,7 +43,6 @@ find_file(TOLMERE_FONT DejaVuSansMono.ttf
 add_content(data/text2.tga
     COMMAND font_builder ${TOLMERE_FONT} ${content_game}/data/text2.tga
     DEPENDS font_builder ${TOLMERE_FONT})
-get_property(content_textures GLOBAL PROPERTY content_files)
 
 # Sounds and music: one rule a row of their manifest.
 set(manifest ${content_source}/sounds.txt)

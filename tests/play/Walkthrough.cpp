@@ -2,6 +2,7 @@
 
 #include "GameDriver.h"
 
+#include "graphicsModule/GraphicsObject.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/ObjectNameAdd.h"
@@ -43,6 +44,11 @@ Condition parseCondition(const Words& words, std::size_t at, int& limit) {
                      words.begin() + static_cast<std::ptrdiff_t>(end));
     if (rest.size() == 1 && rest[0] == "standing") {
         condition.kind = Condition::Kind::standing;
+    } else if (rest.size() == 1 && rest[0] == "speaking") {
+        condition.kind = Condition::Kind::speaking;
+    } else if (rest.size() == 2 && rest[1] == "faded") {
+        condition.kind = Condition::Kind::faded;
+        condition.name = rest[0];
     } else if (rest.size() == 2 && rest[0] == "touching") {
         condition.kind = Condition::Kind::touching;
         condition.name = rest[1];
@@ -119,6 +125,16 @@ bool hasName(const SceneObject& object, const std::string& name) {
     return addition != nullptr && addition->getName() == name;
 }
 
+/// Whether nothing is seen of the object any more.
+bool isFaded(const SceneObject* object) {
+    float ignored = 0.0F;
+    float alpha = 1.0F;
+    if (object != nullptr && object->graphicsObject != nullptr) {
+        object->graphicsObject->getColour(ignored, ignored, ignored, alpha);
+    }
+    return alpha <= 0.0F;
+}
+
 } // namespace
 
 bool Condition::holds(const GameDriver& game) const {
@@ -132,6 +148,10 @@ bool Condition::holds(const GameDriver& game) const {
     switch (kind) {
     case Kind::standing:
         return player->supportNow != nullptr;
+    case Kind::speaking:
+        return player->isSpeaking();
+    case Kind::faded:
+        return isFaded(sceneManager().getSceneObject(name));
     case Kind::touching:
         return player->touchesObject(name);
     case Kind::on:

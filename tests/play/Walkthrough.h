@@ -8,7 +8,7 @@ class GameDriver;
 
 /// A question about the running game that a direction waits for or expects.
 struct Condition {
-    enum class Kind { coordinate, touching, standing, on, gone };
+    enum class Kind { coordinate, touching, standing, speaking, on, gone, faded };
 
     Kind kind = Kind::standing;
     std::string name; ///< Object asked about; empty means the protagonist.
@@ -44,9 +44,9 @@ struct Direction {
 ///     expect CONDITION
 ///     reload                                  saves the scene and loads it again
 ///
-/// CONDITION is "[NAME] x|y above|below V", "touching NAME", "on NAME", "NAME gone" or "standing".
-/// A condition may be followed by "within N" steps. Empty lines and those that begin with # are
-/// notes.
+/// CONDITION is "[NAME] x|y above|below V", "touching NAME", "on NAME", "NAME gone", "NAME faded"
+/// (nothing is seen of it any more), "standing" or "speaking". A condition may be followed by
+/// "within N" steps. Empty lines and those that begin with # are notes.
 class Walkthrough {
 public:
     /// @throws std::string with file and line if a direction is not understood

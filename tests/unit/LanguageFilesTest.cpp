@@ -3,10 +3,14 @@
 #include "Language.h"
 #include "graphicsModule/GraphicsLetter.h"
 #include "platform/Image.h"
+#include "sceneManager/MapFile.h"
+#include "tools/mapc/MapDump.h"
 
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <regex>
 #include <set>
 #include <sstream>
 
@@ -66,6 +70,20 @@ TEST_F(LanguageFilesTest, AllLanguagesHoldTheSameTexts) {
         load(name);
         EXPECT_EQ(definedNumbers(), numbers) << name;
         EXPECT_GE(languageTable.size(), 394U) << name;
+    }
+}
+
+TEST_F(LanguageFilesTest, EveryTextThatALevelShowsOrSaysIsThere) {
+    load(languageFiles[0]);
+    const std::set<int> numbers = definedNumbers();
+    const std::regex reference("(?:TIP number=|text=qq)([0-9]+)");
+    for (const auto& map : std::filesystem::directory_iterator(TOLMERE_BUILT_MAPS)) {
+        const std::string dump = mapc::dumpMap(readMapText(map.path().string()));
+        for (std::sregex_iterator found(dump.begin(), dump.end(), reference), end; found != end;
+             ++found) {
+            const auto number = static_cast<int>(std::stoul((*found)[1].str())); // -1 clears a tip
+            EXPECT_TRUE(number == -1 || numbers.contains(number)) << map.path() << " " << number;
+        }
     }
 }
 

@@ -51,9 +51,11 @@ std::string with(const std::map<std::string, nlohmann::json>& properties) {
 class MapCompilerTest : public EngineFixture {
 protected:
     std::vector<mapc::Problem> problems;
+    std::string soundDirectory;
+    std::string musicDirectory;
 
     std::string compile(const std::string& source) {
-        mapc::MapOptions options{mapc::TextureSizes(), "",
+        mapc::MapOptions options{mapc::TextureSizes(), soundDirectory, musicDirectory,
                                  [](const std::string& word) { return word == "KNOWN"; }};
         problems.clear();
         return mapc::compileMap(source, options, problems);
@@ -306,6 +308,59 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
     EXPECT_EQ("map: has no object named STARTPOS", mapc::describe(problems.at(0), "map"));
 }
 
+TEST_F(MapCompilerTest, AScriptThatTheGamePassesOverInSilenceIsAProblem) {
+    soundDirectory = "sound";
+    musicDirectory = "music";
+    const auto joint = [](const std::string& type, int a, double speed) {
+        return R"({"id":)" + std::to_string(50 + a) + R"(,"type":")" + type +
+               R"(","point":true,"x":0,"y":0)" + with({{"a", a}, {"speedUp", speed}}) + "}";
+    };
+    const auto mapWith = [&](const std::string& script) {
+        const std::string area = R"(,"y":0,"width":20,"height":20)";
+        return mapOf(
+            R"({"id":5,"name":"HINGED","type":"Crate","x":0)" + area + with({{"script", script}}) +
+            R"(},{"id":6,"name":"SLIDING","type":"Crate","x":90)" + area +
+            with({{"script", "SQUEAK click.wav click.wav"}}) +
+            R"(},{"id":7,"name":"IDLE","type":"Crate","x":190)" + area + "}," +
+            joint("Hinge", 5, 0) + "," + joint("Slider", 6, -30) + "," + joint("Slider", 7, 0));
+    };
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"LOCK DELAY", "DELAY, which needs a word behind it"},
+        {"LOCK DELAY soon KNOWN", "DELAY, which needs a whole number"},
+        {"DELAYORKEY 1 KNOWN", "DELAYORKEY, which needs at least 2 steps"},
+        {"TIP 7a", "TIP, which needs a whole number"},
+        {"AMBIENT dark", "AMBIENT, which needs a number"},
+        {"REVERSE", "REVERSE, which needs a word"},
+        {"REVERSE HINGED", "needs a Slider with a speed as the first joint of \"HINGED\""},
+        {"REVERSE IDLE", "needs a Slider with a speed as the first joint of \"IDLE\""},
+        {"SQUEAK click.wav", "SQUEAK, which needs a Slider as the object's first joint"},
+        {"LOCK LOOKAT IDLE KNOWN", "LOOKAT, which lets nothing behind it run"},
+        {"NAME X KNOWN", "NAME, which lets nothing behind it run"},
+        {"SCRATCH ALL", "SCRATCH, which knows only the word NULL"},
+        {"SOUND click.wav -P", "has a -P that is no option there"},
+        {"SOUND click.wav -V loud", "SOUND, which needs a volume from 0 to 128 behind -V"},
+        {"MOVSOUND click.wav -V 129", "MOVSOUND, which needs a volume"},
+        {"VSOUND click.ogg", "sound \"click.ogg\" does not exist"},
+        {"CREAK click.wav KNOWN", "sound \"KNOWN\" does not exist"},
+    };
+    for (const auto& [script, complaint] : cases) {
+        EXPECT_EQ("", compile(mapWith(script))) << script;
+        ASSERT_FALSE(problems.empty()) << script;
+        EXPECT_THAT(mapc::describe(problems[0], "map"), HasSubstr(complaint)) << script;
+    }
+    for (const char* script :
+         {"TRIGGER -P LOCK TIP -1 DELAY 2 AMBIENT 0.5 SETLOCK IDLE", "OBSCURED -O", "NAME X",
+          "STRIGGER REVERSE SLIDING SOUND click.wav -V 128 -P", "SCRATCH NULL", "UP X KNOWN"}) {
+        compile(mapWith(script));
+        EXPECT_THAT(problems, testing::IsEmpty()) << script << ": " << problems.at(0).reason;
+    }
+    std::string withMusic = mapWith("KNOWN");
+    withMusic.insert(1, R"("properties":[{"name":"music","value":"theme.mp3"}],)");
+    compile(withMusic);
+    ASSERT_EQ(1U, problems.size());
+    EXPECT_EQ("music \"theme.mp3\" does not exist", problems[0].reason);
+}
+
 TEST_F(MapCompilerTest, WhatIsNoMapIsRefusedWithTheReason) {
     EXPECT_THAT([this] { compile(R"({"type":"map","layers":[)"); },
                 testing::Throws<std::string>(HasSubstr("is no JSON: ")));
@@ -322,7 +377,7 @@ TEST_F(MapCompilerTest, WhatIsNoMapIsRefusedWithTheReason) {
 TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
     const std::string text = compile(
         mapOf(R"({"id":1,"name":"A BOX","type":"Crate","x":0,"y":0,"width":20,"height":20)" +
-              with({{"script", "DELAY 9 REVERSE A"},
+              with({{"script", "DELAY 9 SETLOCK A"},
                     {"health", 5},
                     {"dialog", "60 hm"},
                     {"sheetColumns", 2}}) +
@@ -331,7 +386,7 @@ TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
     EXPECT_THAT(dump, HasSubstr("objects 3\nobject 0 type 0\n"));
     EXPECT_THAT(dump, HasSubstr("sheet rows 2 stepU 0.5 stepV 0.5"));
     EXPECT_THAT(dump, HasSubstr("addition NAME name=A BOX\n"));
-    EXPECT_THAT(dump, HasSubstr("addition DELAY steps=9 counter=9 REVERSE object=A\n"));
+    EXPECT_THAT(dump, HasSubstr("addition DELAY steps=9 counter=9 SETLOCK object=A\n"));
     EXPECT_THAT(dump, HasSubstr("addition HealthAdd value=5\n"));
     EXPECT_THAT(dump, HasSubstr("addition DialogAdd once=0 locked=0 text=hm steps=60\n"));
     for (std::size_t size = 0; size + 8 < text.size(); size += 7) {

@@ -133,6 +133,11 @@ void visitDialog(TextReader& stream, const AdditionVisitor& visitor) {
 
 } // namespace
 
+const AdditionFormat* findFormat(const std::string& word) {
+    const auto format = std::ranges::find(formats, word, &AdditionFormat::word);
+    return format == formats.end() ? nullptr : &*format;
+}
+
 void visitAddition(TextReader& stream, const AdditionVisitor& visitor) {
     stream.setRecord("addition");
     bool more = true;

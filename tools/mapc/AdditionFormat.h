@@ -28,6 +28,9 @@ struct AdditionFormat {
     std::span<const AdditionField> fields;
 };
 
+/// The layout of the addition that a script's keyword makes. Null for an unknown word.
+const AdditionFormat* findFormat(const std::string& word);
+
 /// Told of a link, then of each of its fields in order.
 struct AdditionVisitor {
     std::function<void(const AdditionFormat&)> link;

@@ -1,13 +1,9 @@
 #include "MapChecker.h"
 
-#include "AdditionFormat.h"
-#include "LevelWriter.h"
 #include "OverlapCheck.h"
-#include "TextStream.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <set>
 
 namespace mapc {
 
@@ -21,42 +17,6 @@ constexpr float thinnestWall = 40.0F; ///< Small fast bodies pass through less w
 
 void report(const LevelObject& object, std::string reason, std::vector<Problem>& problems) {
     problems.push_back({object.id, object.name, std::move(reason)});
-}
-
-/// Calls the action with each field of each link of the object's scripts.
-template <class Action>
-void forEachField(const LevelObject& object, Action action) {
-    for (const std::string& script : object.scripts) {
-        const std::string stored = storeScript(script);
-        TextReader stream(stored);
-        visitAddition(stream, {[](const AdditionFormat&) {}, action});
-    }
-}
-
-void checkScripts(const Level& level, const CommandTest& isCommand,
-                  std::vector<Problem>& problems) {
-    std::set<std::string> names;
-    for (const LevelObject& object : level.objects) {
-        names.insert(object.name);
-        forEachField(object, [&](const AdditionField& field, const std::string& value) {
-            if (field.kind == FieldKind::counted && field.role == FieldRole::plain) {
-                names.insert(value); // a NAME in a script
-            }
-        });
-    }
-    for (const LevelObject& object : level.objects) {
-        forEachField(object, [&](const AdditionField& field, const std::string& value) {
-            if (field.role == FieldRole::command && !isCommand(value)) {
-                report(object,
-                       value.empty() ? std::string("script has two blanks in a row")
-                                     : "script has the unknown word \"" + value + "\"",
-                       problems);
-            } else if (field.role == FieldRole::object && !names.contains(value)) {
-                report(object, "script speaks of \"" + value + "\", and no object has that name",
-                       problems);
-            }
-        });
-    }
 }
 
 void checkStart(const Level& level, std::vector<Problem>& problems) {
@@ -121,16 +81,11 @@ void checkTextures(const Level& level, const TextureSizes& textures,
     }
 }
 
-void checkSounds(const Level& level, const std::string& directory, std::vector<Problem>& problems) {
-    for (const LevelObject& object : level.objects) {
-        forEachField(object, [&](const AdditionField& field, const std::string& value) {
-            std::error_code ignored;
-            if (field.role == FieldRole::sound &&
-                !std::filesystem::is_regular_file(std::filesystem::path(directory) / value,
-                                                  ignored)) {
-                report(object, "sound \"" + value + "\" does not exist", problems);
-            }
-        });
+void checkMusic(const Level& level, const std::string& directory, std::vector<Problem>& problems) {
+    std::error_code ignored;
+    if (!level.music.empty() && !std::filesystem::is_regular_file(
+                                    std::filesystem::path(directory) / level.music, ignored)) {
+        problems.push_back({0, "", "music \"" + level.music + "\" does not exist"});
     }
 }
 

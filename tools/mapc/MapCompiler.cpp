@@ -15,6 +15,9 @@ std::string compileMap(const std::string& source, MapOptions& options,
     if (!options.soundDirectory.empty()) {
         checkSounds(level, options.soundDirectory, problems);
     }
+    if (!options.musicDirectory.empty()) {
+        checkMusic(level, options.musicDirectory, problems);
+    }
     return problems.empty() ? writeLevel(level, options.textures) : std::string();
 }
 

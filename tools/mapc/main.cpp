@@ -7,34 +7,38 @@
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
 #include <iostream>
+#include <map>
 #include <span>
 
 namespace {
 
-constexpr const char* usage = "mapc compile IN.tmj OUT.vkl [--data DIR] [--sound DIR]\n"
-                              "mapc check IN.tmj [--data DIR] [--sound DIR]\n"
-                              "mapc dump IN.vkl\n"
-                              "  --data DIR   built textures, for their sizes and names\n"
-                              "  --sound DIR  built sounds, for their names\n";
+constexpr const char* usage =
+    "mapc compile IN.tmj OUT.vkl [--data DIR] [--sound DIR] [--music DIR]\n"
+    "mapc check IN.tmj [--data DIR] [--sound DIR] [--music DIR]\n"
+    "mapc dump IN.vkl\n"
+    "  --data DIR   built textures, for their sizes and names\n"
+    "  --sound DIR  built sounds, for their names\n"
+    "  --music DIR  built music, for its names\n";
 
 struct CommandLine {
     std::vector<std::string> words;
-    std::string dataDirectory;
-    std::string soundDirectory;
+    std::map<std::string, std::string> directories{
+        {"--data", ""}, {"--sound", ""}, {"--music", ""}};
 };
 
 CommandLine parseArguments(std::span<char*> arguments) {
     CommandLine line;
     for (std::size_t i = 1; i < arguments.size(); ++i) {
         const std::string word = arguments[i];
-        if (word != "--data" && word != "--sound") {
+        const auto directory = line.directories.find(word);
+        if (directory == line.directories.end()) {
             line.words.push_back(word);
             continue;
         }
         if (i + 1 == arguments.size()) {
             throw word + " needs a directory\n" + usage;
         }
-        (word == "--data" ? line.dataDirectory : line.soundDirectory) = arguments[++i];
+        directory->second = arguments[++i];
     }
     return line;
 }
@@ -42,7 +46,8 @@ CommandLine parseArguments(std::span<char*> arguments) {
 /// Checks the map, and writes the second file if asked to.
 int compileFile(const CommandLine& line, bool write) {
     mapc::MapOptions options{
-        mapc::TextureSizes(line.dataDirectory), line.soundDirectory,
+        mapc::TextureSizes(line.directories.at("--data")), line.directories.at("--sound"),
+        line.directories.at("--music"),
         [](const std::string& word) { return callbackTable().contains(word); }};
     const std::string& file = line.words[1];
     std::vector<mapc::Problem> problems;

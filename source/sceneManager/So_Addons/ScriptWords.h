@@ -16,6 +16,7 @@ public:
     /// Takes the front word, which must be there.
     std::string_view take();
     void clear() { rest = {}; }
+    bool operator==(const ScriptWords&) const = default;
 
 private:
     std::string_view rest;
