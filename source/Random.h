@@ -10,3 +10,12 @@ inline int drawRandom() {
     randomState = randomState * 1103515245U + 12345U;
     return static_cast<int>((randomState >> 16U) & 0x7FFFU);
 }
+
+/// The draw that follows from a seed, 0 to 32767, without touching the state. A seed of 0 is no
+/// seed: it gives a plain draw.
+inline int drawRandom(std::uint32_t seed) {
+    if (seed == 0) {
+        return drawRandom();
+    }
+    return static_cast<int>(((seed * 1103515245U + 12345U) >> 16U) & 0x7FFFU);
+}

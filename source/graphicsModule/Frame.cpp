@@ -4,6 +4,7 @@
 #include "FrameOrder.h"
 #include "InterfaceGraphicsObject.h"
 #include "LightAdd.h"
+#include "LightMap.h"
 #include "LightReaderAdd.h"
 #include "Painter.h"
 #include "ProcessValues.h"
@@ -95,28 +96,14 @@ void GraphicsModule::refreshObjects() {
     sortForDrawing(objects);
 }
 
-/// In the corner of the back buffer, from where it is read and copied before the scene takes over.
 void GraphicsModule::drawLightMap() {
-    Painter& paint = painter();
-    textureStore().bind(-1);
-    paint.clear(ambient[0], ambient[1], ambient[2], 0.0F);
-    paint.setViewport(0, 0, lightMapSize, lightMapSize);
-    paint.setDepthTest(false);
-    for (LightAdd* light : lights) {
-        if (light->getBounds().overlaps(view)) {
-            drawLight(*light);
-        }
-    }
+    lightMap->begin(ambient);
+    lightMap->drawLights(lights, objects, view);
     for (LightReaderAdd* reader : lightReaders) {
         reader->sample();
     }
-    textureStore().bind(lightTexture);
-    paint.device().copyToBoundTexture(lightMapSize, lightMapSize);
+    lightMap->finish();
 }
-
-/// The map shows the ambient colour alone: lights registered so far only occupy their place in the
-/// order of the frame.
-void GraphicsModule::drawLight(LightAdd&) {}
 
 void GraphicsModule::drawScene() {
     Painter& paint = painter();
@@ -134,6 +121,8 @@ void GraphicsModule::drawScene() {
     multiplyLightMap();
     paint.setBlend(BlendMode::alpha);
     drawTintedSlice();
+    drawGlows();
+    paint.setBlend(BlendMode::alpha);
     drawFrontSlice();
     if (isVisible(*sceneFade)) {
         sceneFade->draw();
@@ -154,7 +143,7 @@ void GraphicsModule::drawLitSlice() {
 void GraphicsModule::multiplyLightMap() {
     Painter& paint = painter();
     paint.setBlend(BlendMode::multiply);
-    textureStore().bind(lightTexture);
+    lightMap->bind();
     paint.setDepthFunction(DepthFunction::greaterOrEqual);
     paintScreen(litBottom, 1.0F);
     paint.setDepthFunction(DepthFunction::lessOrEqual);
@@ -166,6 +155,18 @@ void GraphicsModule::drawTintedSlice() {
             object->draw();
         }
     }
+}
+
+/// Lamps themselves, as opposed to what they shine on.
+void GraphicsModule::drawGlows() {
+    Painter& paint = painter();
+    paint.pushTransform();
+    paint.translate(0.0F, 0.0F, glowZ);
+    paint.setBlend(BlendMode::add);
+    for (LightAdd* light : lights) {
+        light->drawGlow();
+    }
+    paint.popTransform();
 }
 
 void GraphicsModule::drawFrontSlice() {

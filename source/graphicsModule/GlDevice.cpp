@@ -1,8 +1,13 @@
 #include "GlDevice.h"
 
+#include "platform/OpenGl.h"
+
 #include <GL/gl.h>
 #include <GL/glext.h>
 
+#include <algorithm>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -60,6 +65,58 @@ int query(GLenum name) {
     return value;
 }
 
+bool hasExtension(std::string_view wanted) {
+    const auto* list = reinterpret_cast<const char*>(glGetString(GL_EXTENSIONS));
+    std::string_view rest = list != nullptr ? list : "";
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(' '), rest.size());
+        if (rest.substr(0, end) == wanted) {
+            return true;
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return false;
+}
+
+/// What framebuffer objects need beyond OpenGL 1, as the driver names it.
+struct FramebufferCalls {
+    PFNGLGENFRAMEBUFFERSPROC generate = nullptr;
+    PFNGLBINDFRAMEBUFFERPROC bind = nullptr;
+    PFNGLGENRENDERBUFFERSPROC generateStorage = nullptr;
+    PFNGLBINDRENDERBUFFERPROC bindStorage = nullptr;
+    PFNGLRENDERBUFFERSTORAGEPROC allocate = nullptr;
+    PFNGLFRAMEBUFFERRENDERBUFFERPROC attach = nullptr;
+    PFNGLCHECKFRAMEBUFFERSTATUSPROC check = nullptr;
+
+    bool load() {
+        // A driver hands out addresses for what it does not have, too: its list of extensions
+        // decides.
+        std::string suffix;
+        if (!hasExtension("GL_ARB_framebuffer_object")) {
+            if (!hasExtension("GL_EXT_framebuffer_object")) {
+                return false;
+            }
+            suffix = "EXT";
+        }
+        return get(generate, "glGenFramebuffers" + suffix) &&
+               get(bind, "glBindFramebuffer" + suffix) &&
+               get(generateStorage, "glGenRenderbuffers" + suffix) &&
+               get(bindStorage, "glBindRenderbuffer" + suffix) &&
+               get(allocate, "glRenderbufferStorage" + suffix) &&
+               get(attach, "glFramebufferRenderbuffer" + suffix) &&
+               get(check, "glCheckFramebufferStatus" + suffix);
+    }
+
+private:
+    template <class Call>
+    static bool get(Call& call, const std::string& name) {
+        call = reinterpret_cast<Call>(platform::openGlFunction(name.c_str()));
+        return call != nullptr;
+    }
+};
+
+FramebufferCalls framebufferCalls;
+
 } // namespace
 
 void GlDevice::setUp(float width, float height) {
@@ -112,6 +169,12 @@ void GlDevice::setBlend(BlendMode mode) {
         break;
     case BlendMode::brighten:
         glBlendFunc(GL_DST_COLOR, GL_ONE);
+        break;
+    case BlendMode::replace:
+        glBlendFunc(GL_ONE, GL_ZERO);
+        break;
+    case BlendMode::unmasked:
+        glBlendFunc(GL_ONE_MINUS_DST_ALPHA, GL_ONE);
         break;
     }
 }
@@ -190,6 +253,29 @@ std::array<std::uint8_t, 3> GlDevice::readPixel(int x, int y) {
 
 int GlDevice::alphaBits() {
     return query(GL_ALPHA_BITS);
+}
+
+bool GlDevice::createOffscreen(int width, int height) {
+    FramebufferCalls& calls = framebufferCalls;
+    if (!calls.load()) {
+        return false;
+    }
+    GLuint storage = 0;
+    calls.generateStorage(1, &storage);
+    calls.bindStorage(GL_RENDERBUFFER, storage);
+    calls.allocate(GL_RENDERBUFFER, GL_RGBA8, width, height);
+    calls.generate(1, &framebuffer);
+    calls.bind(GL_FRAMEBUFFER, framebuffer);
+    calls.attach(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, storage);
+    const bool usable = calls.check(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    calls.bind(GL_FRAMEBUFFER, 0);
+    return usable;
+}
+
+void GlDevice::setOffscreen(bool on) {
+    if (framebuffer != 0) {
+        framebufferCalls.bind(GL_FRAMEBUFFER, on ? framebuffer : 0);
+    }
 }
 
 int GlDevice::maxTextureSize() {

@@ -28,8 +28,12 @@ public:
     void copyToBoundTexture(int width, int height) override;
     std::array<std::uint8_t, 3> readPixel(int x, int y) override;
     int alphaBits() override;
+    /// A framebuffer object, which goes with the context.
+    bool createOffscreen(int width, int height) override;
+    void setOffscreen(bool on) override;
     int maxTextureSize() override;
 
 private:
     const PaintVertex* arrays = nullptr; ///< Where the client arrays point; not owned.
+    unsigned framebuffer = 0;            ///< OpenGL name of the offscreen buffer, 0 without one.
 };

@@ -4,6 +4,7 @@
 #include "FreeCamera.h"
 #include "InterfaceGraphicsObject.h"
 #include "LightAdd.h"
+#include "LightMap.h"
 #include "ModuleManager.h"
 #include "Painter.h"
 #include "ParticleEmiter.h"
@@ -13,6 +14,7 @@
 #include "platform/Window.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <limits>
 
@@ -87,12 +89,15 @@ InterfaceGraphicsObject* makeOverlay(float z) {
 
 int toPixel(double value) {
     using Limits = std::numeric_limits<int>;
+    if (std::isnan(value)) {
+        return Limits::min(); // nowhere, so surely not on the map
+    }
     return static_cast<int>(std::clamp(value, double{Limits::min()}, double{Limits::max()}));
 }
 
 } // namespace
 
-GraphicsModule::GraphicsModule() {
+GraphicsModule::GraphicsModule() : lightMap(std::make_unique<LightMap>()) {
     readSettings();
     camera = new FreeCamera(0.0F, 0.0F, 1.0F);
     loadTextures();
@@ -141,20 +146,12 @@ void GraphicsModule::createOverlays() {
 void GraphicsModule::setUpDevice() {
     Painter& paint = painter();
     paint.setUp(logicalWidth, logicalHeight);
-    if (paint.device().alphaBits() == 0) {
-        std::cout << "the back buffer has no alpha bits: lights will cast no shadows\n";
-    }
     paint.setBlend(BlendMode::alpha);
     paint.setDepthTest(true);
     paint.setDepthFunction(DepthFunction::lessOrEqual);
     setViewport();
     paint.setScissor(0, 0, windowWidth, windowHeight);
-
-    lightTexture = paint.device().createTextureName();
-    textureStore().bind(lightTexture);
-    paint.device().uploadTexture(lightTexture, lightMapSize, lightMapSize, TextureFormat::rgba,
-                                 false, nullptr);
-    textureStore().bind(-1);
+    lightMap->setUp();
 }
 
 void GraphicsModule::addObject(GraphicsObject* object) {

@@ -13,6 +13,7 @@
 class Camera;
 class InterfaceGraphicsObject;
 class LightAdd;
+class LightMap;
 class LightReaderAdd;
 class ParticleEmiter;
 
@@ -76,6 +77,7 @@ public:
     const std::vector<LightAdd*>& getLights() const { return lights; }
     const Bounds& getView() const { return view; }
     const InterfaceGraphicsObject& getCursor() const { return *cursor; }
+    LightMap& getLightMap() { return *lightMap; }
 
     Colour3 ambient{};                             ///< Present ambient colour.
     Colour3 ambientTarget{0.2F, 0.2F, 0.2F};       ///< What `ambient` moves to.
@@ -106,10 +108,10 @@ private:
     void drawBrightness();
 
     // The parts of the phases.
-    void drawLight(LightAdd& light);
     void drawLitSlice();
     void multiplyLightMap();
     void drawTintedSlice();
+    void drawGlows();
     void drawFrontSlice();
 
     std::vector<GraphicsObject*> objects;          // owned
@@ -117,7 +119,7 @@ private:
     std::vector<LightAdd*> lights;                 // owned
     std::set<GraphicsObject*> deadObjects;
     Bounds view{};                             // world rectangle visible in this frame
-    int lightTexture = -1;                     // name on the painter's device
+    std::unique_ptr<LightMap> lightMap;        // never null
     InterfaceGraphicsObject* cursor = nullptr; // owned
     ParticleEmiter* dustEmiter = nullptr;      // owned
     ParticleEmiter* bloodEmiter = nullptr;     // owned

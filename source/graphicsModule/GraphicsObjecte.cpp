@@ -3,6 +3,8 @@
 #include "Camera.h"
 #include "Gr_Modifier.h"
 #include "GraphicsModule.h"
+#include "LightAdd.h"
+#include "LightMap.h"
 #include "Painter.h"
 #include "TextStream.h"
 #include "TextureStore.h"
@@ -12,6 +14,12 @@
 #include <array>
 #include <cassert>
 #include <cmath>
+
+namespace {
+
+constexpr float shadowDepth = 1.0F; // only what lies within this z of the lights blocks them
+
+}
 
 GraphicsObjecte::GraphicsObjecte() = default;
 
@@ -36,6 +44,15 @@ void GraphicsObjecte::draw() {
         drawBoundsLine();
     }
     applyModifiers();
+}
+
+void GraphicsObjecte::drawShadow(LightAdd& light) {
+    const bool blocks = light.getBounds().overlaps(worldBounds) &&
+                        std::abs(getZ()) <= shadowDepth && castsShadow != 0 &&
+                        (type == 1 || type == 2);
+    if (blocks) {
+        graphicsModule().getLightMap().shadows.draw(*this, shadowOutline, light);
+    }
 }
 
 void GraphicsObjecte::drawShape(const GraphicsModule& module) const {

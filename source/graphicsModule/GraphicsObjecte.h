@@ -2,6 +2,7 @@
 
 #include "GraphicsObject.h"
 #include "GraphicsObjectData.h"
+#include "ShadowOutline.h"
 
 class GraphicsModule;
 struct ShapeArrays;
@@ -15,6 +16,8 @@ public:
     ~GraphicsObjecte() override;
 
     void draw() override;
+    /// For polygons of stream type 1 or 2 that lie close to the plane of the lights.
+    void drawShadow(LightAdd& light) override;
     void setCastsShadow(int casts) override { castsShadow = casts; }
     /// Puts the origin of the transform there, by `moveBy`.
     void moveTo(float x, float y) override;
@@ -58,6 +61,8 @@ protected:
     Bounds worldBounds = unboundedBounds;
 
 private:
+    ShadowOutline shadowOutline;
+
     void drawShape(const GraphicsModule& module) const;
     void drawOutline() const;
     Bounds vertexBox() const;

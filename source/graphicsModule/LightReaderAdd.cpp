@@ -2,6 +2,7 @@
 
 #include "GraphicsModule.h"
 #include "Painter.h"
+#include "ProcessValues.h"
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/SceneObject.h"
 
@@ -48,7 +49,8 @@ void LightReaderAdd::sample() {
     graphicsModule().worldToLightMap(place.x(), place.y(), px, py);
     onScreen = isOnMap(px) && isOnMap(py);
     if (onScreen) {
-        const auto pixel = painter().device().readPixel(px, py);
+        const auto pixel = painter().device().readPixel(std::min(px, windowWidth - 1),
+                                                        std::min(py, windowHeight - 1));
         red = pixel[0];
         green = pixel[1];
         blue = pixel[2];

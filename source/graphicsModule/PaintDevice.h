@@ -18,6 +18,8 @@ enum class BlendMode {
     multiply, ///< What is there times the source.
     add,      ///< What is there plus the source.
     brighten, ///< What is there times one plus the source.
+    replace,  ///< The source alone.
+    unmasked, ///< What is there plus the source, the less of it the more alpha is there.
 };
 
 enum class DepthFunction { lessOrEqual, greaterOrEqual };
@@ -58,6 +60,10 @@ public:
     virtual void copyToBoundTexture(int width, int height) = 0;
     virtual std::array<std::uint8_t, 3> readPixel(int x, int y) = 0;
     virtual int alphaBits() = 0; ///< Of the back buffer.
+    /// Prepares a buffer with alpha beside the window, once. False if the driver has no such thing.
+    virtual bool createOffscreen(int /*width*/, int /*height*/) { return false; }
+    /// Whether drawing, copies and reads take that buffer in place of the back buffer.
+    virtual void setOffscreen(bool /*on*/) {}
     /// Longest side of a texture, pixels. A device without a limit takes all.
     virtual int maxTextureSize() { return std::numeric_limits<int>::max(); }
 };

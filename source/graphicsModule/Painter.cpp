@@ -118,15 +118,30 @@ void Painter::quadStrip(const ShapeArrays& shape) {
     }
     const std::size_t quads = shape.count / 2 - 1;
     begin(PaintPrimitive::triangles, shape.count, 6 * quads);
-    const std::uint32_t base = append(shape, {});
-    std::uint32_t* out = indices.data() + indexCount;
-    for (std::size_t i = 0; i < quads; ++i) {
-        const auto a = static_cast<std::uint32_t>(base + 2 * i);
-        for (const std::uint32_t corner : {a, a + 1, a + 3, a, a + 3, a + 2}) {
-            *out++ = corner;
-        }
+    appendStrip(append(shape, {}), quads);
+}
+
+void Painter::quadStrip(std::span<const PaintPoint> points, const PaintColour& colour) {
+    if (points.size() < 4) {
+        return;
     }
-    indexCount += 6 * quads;
+    const std::size_t quads = points.size() / 2 - 1;
+    begin(PaintPrimitive::triangles, points.size(), 6 * quads);
+    const PaintTransform t = transform;
+    PaintVertex* out = vertices.data() + vertexCount;
+    for (const PaintPoint& point : points) {
+        *out++ = {t.m00 * point.x + t.m01 * point.y + t.x,
+                  t.m10 * point.x + t.m11 * point.y + t.y,
+                  t.z,
+                  0.0F,
+                  0.0F,
+                  colour.r,
+                  colour.g,
+                  colour.b,
+                  colour.a};
+    }
+    appendStrip(static_cast<std::uint32_t>(std::exchange(vertexCount, vertexCount + points.size())),
+                quads);
 }
 
 void Painter::lineLoop(const ShapeArrays& shape) {
@@ -314,6 +329,18 @@ void Painter::appendFan(std::uint32_t base, std::size_t count) {
         out += 3;
     }
     indexCount += 3 * (count - 2);
+}
+
+/// Indices of vertices that lie in turn on the two sides of a strip.
+void Painter::appendStrip(std::uint32_t base, std::size_t quads) {
+    std::uint32_t* out = indices.data() + indexCount;
+    for (std::size_t i = 0; i < quads; ++i) {
+        const auto a = static_cast<std::uint32_t>(base + 2 * i);
+        for (const std::uint32_t corner : {a, a + 1, a + 3, a, a + 3, a + 2}) {
+            *out++ = corner;
+        }
+    }
+    indexCount += 6 * quads;
 }
 
 /// Indices of vertices that are used once each, in order.

@@ -22,6 +22,15 @@ struct ShapeArrays {
     std::size_t count;
 };
 
+/// A point of the plane, before transforms.
+struct PaintPoint {
+    float x, y;
+};
+
+struct PaintColour {
+    float r, g, b, a;
+};
+
 /// Factor on red, green and blue of every vertex.
 struct Tint {
     float r = 1.0F, g = 1.0F, b = 1.0F;
@@ -47,11 +56,14 @@ public:
     void scale(float factor);
     void multiply(const btTransform& transform); ///< A turn about z and an origin.
     const PaintTransform& getTransform() const { return transform; }
+    /// Takes one that was read before in place of the present one.
+    void setTransform(const PaintTransform& other) { transform = other; }
 
     // Shapes, in the present texture and state.
     void polygon(const ShapeArrays& shape, const Tint& tint = {}); ///< Convex.
     void triangles(const ShapeArrays& shape);
     void quadStrip(const ShapeArrays& shape);
+    void quadStrip(std::span<const PaintPoint> points, const PaintColour& colour);
     void lineLoop(const ShapeArrays& shape);       ///< A single vertex becomes a point.
     void lines(std::span<const PaintVertex> ends); ///< Pairs, in local space.
     void points(std::span<const PaintVertex> places);
@@ -94,6 +106,7 @@ private:
     std::uint32_t append(const ShapeArrays& shape, const Tint& tint);
     std::uint32_t append(std::span<const PaintVertex> places);
     void appendFan(std::uint32_t base, std::size_t count);
+    void appendStrip(std::uint32_t base, std::size_t quads);
     void appendRun(std::uint32_t base, std::size_t count);
     void begin(PaintPrimitive wanted, std::size_t newVertices, std::size_t newIndices);
     void grow(std::size_t vertexRoom, std::size_t indexRoom);

@@ -2,6 +2,7 @@
 
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
+#include "graphicsModule/LightAdd.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/SceneManager.h"
@@ -57,7 +58,16 @@ SceneObjectDescription look(float mass) {
     return description;
 }
 
-/// Crates and discs at rest on a floor, one with a chain that counts a long delay.
+LightProperties lampLight() {
+    LightProperties look;
+    look.size = 700.0F;
+    look.red = look.green = look.blue = 1.0F;
+    look.flickerPeriod = 9;
+    look.castsShadows = true;
+    return look;
+}
+
+/// Crates and discs at rest on a floor, under a lamp, while a script counts a long delay.
 void fillStillScene() {
     sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 0, -50, 900, 50)));
     for (int i = 0; i < 20; ++i) {
@@ -66,6 +76,9 @@ void fillStillScene() {
             new SceneObject(i % 2 == 0 ? makeBoxParts(look(1.0F), x, 20, 20, 20)
                                        : makeSphereParts(look(1.0F), x, 20, 20)));
     }
+    auto* lamp = new SceneObject(makeBoxParts(look(0.0F), 0, 300, 20, 20));
+    lamp->addAddition(new LightAdd(lampLight()));
+    sceneManager().addSceneObject(lamp);
     physicsModule().addScript(parseScript("DELAY 100000 X"));
 }
 

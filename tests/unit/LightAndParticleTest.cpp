@@ -1,6 +1,7 @@
 #include "support/EngineFixture.h"
 
 #include "PhysicsBodies.h"
+#include "Random.h"
 #include "TextStream.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LightAdd.h"
@@ -15,6 +16,25 @@ protected:
         TextWriter writer;
         addition.save(writer);
         return writer.takeText();
+    }
+
+    static LightAdd* addLight(SceneObject* owner, int period) {
+        LightProperties look;
+        look.size = 10.0F;
+        look.red = 0.5F;
+        look.green = 1.0F;
+        look.flickerPeriod = period;
+        look.offsetX = 3.0F;
+        look.offsetY = -4.0F;
+        auto* light = new LightAdd(look);
+        owner->addAddition(light);
+        return light;
+    }
+
+    static Colour4 colourOf(const LightAdd& light) {
+        Colour4 colour{};
+        light.getColour(colour[0], colour[1], colour[2], colour[3]);
+        return colour;
     }
 
     static ParticleParams shortLived(float life, float rate) {
@@ -45,6 +65,55 @@ TEST_F(LightAndParticleTest, RecordsReadBackToTheSameText) {
     TextReader nothing("");
     const std::unique_ptr<So_Addition> eye(LightReaderAdd::read(nothing));
     EXPECT_EQ(saved(*eye), "23 ");
+}
+
+TEST_F(LightAndParticleTest, FlickerGlidesFromOneRandomStrengthToTheNext) {
+    SceneObject* owner = addBox(100, 50, 10, 10, 0);
+    LightAdd* light = addLight(owner, 20);
+    LightAdd* twin = addLight(owner, 20);
+    LightAdd* other = addLight(addBox(0, 0, 10, 10, 0), 20);
+    step(30); // the draw of step 0 has no seed
+    const std::uint32_t state = randomState;
+    float least = 1.0F;
+    float most = 0.0F;
+    bool othersDiffer = false;
+    float last = colourOf(*light)[0];
+    for (int i = 0; i < 1000; ++i) {
+        step();
+        light->refreshTransform();
+        const Colour4 colour = colourOf(*light);
+        EXPECT_LE(std::abs(colour[0] - last), 0.051F) << "half a period is ten steps";
+        last = colour[0];
+        least = std::min(least, last);
+        most = std::max(most, last);
+        EXPECT_LE(colour[1], 1.0F);
+        EXPECT_EQ(colour[3], 0.0F);
+        EXPECT_EQ(colour, colourOf(*twin));
+        othersDiffer = othersDiffer || colour != colourOf(*other);
+        EXPECT_NEAR(light->getShadowOrigin().x(), 103.0F, 2.001F);
+        EXPECT_NEAR(light->getShadowOrigin().y(), 46.0F, 2.001F);
+    }
+    EXPECT_GE(least, 0.25F);
+    EXPECT_LE(most, 0.75F);
+    EXPECT_GT(most - least, 0.3F);
+    EXPECT_TRUE(othersDiffer);
+    EXPECT_EQ(randomState, state) << "a save must not hang on how a lamp flickers";
+}
+
+TEST_F(LightAndParticleTest, PeriodsThatHoldNoCycleAreSteadyAndTheShortestJumps) {
+    SceneObject* owner = addBox(0, 0, 10, 10, 0);
+    for (const int period : {0, 1, -2, -3}) {
+        const LightAdd* light = addLight(owner, period);
+        step(5);
+        EXPECT_EQ(colourOf(*light), (Colour4{0.5F, 1.0F, 0.0F, 0.0F})) << period;
+    }
+    for (const int period : {2, 3}) {
+        const LightAdd* light = addLight(owner, period);
+        step();
+        EXPECT_FLOAT_EQ(colourOf(*light)[0], 0.5F) << "the strength drawn before";
+        step();
+        EXPECT_NE(colourOf(*light)[0], 0.5F);
+    }
 }
 
 TEST_F(LightAndParticleTest, AReaderSamplesTheMapOrFallsBackToTheAmbientColour) {

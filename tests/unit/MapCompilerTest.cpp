@@ -2,6 +2,7 @@
 
 #include "Files.h"
 #include "TextStream.h"
+#include "graphicsModule/LightAdd.h"
 #include "graphicsModule/MultiGraphics.h"
 #include "graphicsModule/TransformGraphicsObject.h"
 #include "physicsModule/PhysicsModule.h"
@@ -168,6 +169,37 @@ TEST_F(MapCompilerTest, PropertiesGiveABodyItsBehaviour) {
     EXPECT_EQ("2 5 1 7 2.5 15 -0.5 0 2 1 0 5 qq120 180 14 What was that? 60 ", stream.text());
 }
 
+TEST_F(MapCompilerTest, LightsStandByThemselvesOrHangOnBodies) {
+    const std::string lamp = R"({"type":"Light","id":)";
+    const std::string crate = R"({"id":1,"type":"Crate","x":0,"y":100,"width":20,"height":20,)"
+                              R"("rotation":90},)";
+    const SceneBundle bundle = load(mapOf(
+        crate + lamp + R"(2,"x":90,"y":0,"width":60,"height":60,"ellipse":true)" +
+        with({{"colour", "#80ff8000"}, {"flicker", 24}, {"glow", true}}) + "}," + lamp +
+        R"(3,"point":true,"x":0,"y":110)" +
+        with({{"on", 1}, {"size", 50}, {"shadows", false}, {"texture", "null.tga"}}) + "}," + lamp +
+        R"(4,"point":true,"x":-10,"y":100)" + with({{"group", "G"}, {"size", 5}}) +
+        R"(},{"id":5,"type":"Body","x":300,"y":0,"width":20,"height":20)" + with({{"group", "G"}}) +
+        R"(},{"id":6,"type":"Trigger","x":0,"y":0,"width":9,"height":9})"));
+
+    ASSERT_EQ(5U, bundle.objects.size()) << "a light on a body is no object";
+    const auto recordOf = [&bundle](std::size_t index) {
+        TextWriter stream;
+        bundle.objects[index]->additions.at(0)->save(stream);
+        return stream.takeText();
+    };
+    EXPECT_EQ("16 30 0.501961 0.251965 0 25 1 0 0 0 0 unknown ", recordOf(1));
+    EXPECT_EQ(0, bundle.objects[1]->physicsObject->kind);
+    EXPECT_EQ(btVector3(120, 70, 0), bodyOf(bundle, 1).getWorldTransform().getOrigin());
+    const auto& hung = dynamic_cast<LightAdd&>(*bundle.objects[0]->additions.at(0));
+    EXPECT_FALSE(hung.getProperties().castsShadows);
+    EXPECT_NEAR(0.0F, hung.getProperties().shiftX, 0.001F) << "in the frame of the body";
+    EXPECT_NEAR(10.0F, hung.getProperties().shiftY, 0.001F);
+    EXPECT_NEAR(10.0F, hung.getProperties().offsetY, 0.001F);
+    EXPECT_EQ("16 5 1 1 1 0 1 -320 -90 -320 -90 unknown ", recordOf(2));
+    EXPECT_EQ(0, polygonOf(bundle, 3).castsShadow) << "areas that are only felt keep no light off";
+}
+
 TEST_F(MapCompilerTest, ACompoundTurnsAboutItsCentreOfMass) {
     const std::string layer = R"("class":"Compound","properties":[{"name":"mass","value":2.5}],)";
     const std::string parts =
@@ -289,6 +321,15 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
          "has no body, which a script needs"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"dialog", "60 hm"}}) + "}",
          "has no body, which a dialog needs"},
+        {R"({"id":6,"type":"Light","point":true})", "object 6: needs a size"},
+        {R"({"id":6,"type":"Light")" + area + with({{"flicker", -2}}) + "}", "must not be below 0"},
+        {R"({"id":6,"type":"Light")" + area + with({{"on", 77}}) + "}",
+         "object 77, which is not in the level"},
+        {R"({"id":6,"type":"Light")" + area + with({{"on", 7}}) + R"(},{"id":7,"type":"Scenery")" +
+             area + "}",
+         "object 7, which has no body to carry a light"},
+        {R"({"id":6,"type":"Light")" + area + with({{"group", "G"}}) + "}",
+         "the group has no body to carry a light"},
         {crate + with({{"dialog", "60 hm\nqq5"}}) + "}",
          "the line \"qq5\": it needs steps above 0"},
         {crate + with({{"dialog", "0 hm"}}) + "}", "it needs steps above 0"},

@@ -84,6 +84,16 @@ struct Dialog {
     bool locked = false; ///< Says nothing until a script unlocks it.
 };
 
+/// A light that an object carries.
+struct Light {
+    float size = 0.0F; ///< Half the side of its square.
+    Colour colour;     ///< Alpha is its strength.
+    int flickerPeriod = 0;
+    bool castsShadows = true;
+    Point place; ///< In the object's frame.
+    std::string texture;
+};
+
 /// A scene object to be.
 struct LevelObject {
     int id = 0;
@@ -97,6 +107,7 @@ struct LevelObject {
     std::optional<Damage> damage;
     std::optional<float> forcePower; ///< Along its own up axis, in units of the world's gravity.
     std::optional<Dialog> dialog;
+    std::vector<Light> lights;
 };
 
 constexpr int worldIndex = -1; ///< In place of an object: the joint's other side is the world.

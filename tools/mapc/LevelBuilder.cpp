@@ -1,6 +1,7 @@
 #include "LevelBuilder.h"
 
 #include "JointBuilder.h"
+#include "LightRecord.h"
 #include "ObjectAdditions.h"
 #include "ObjectClass.h"
 #include "ShapeBuilder.h"
@@ -13,6 +14,7 @@ namespace mapc {
 namespace {
 
 constexpr float markerHalf = 5.0F;
+constexpr const char* bearerProperty = "on"; // the object that a light hangs on
 
 /// What makes several objects one: a property, or a layer of class Compound around them.
 std::string groupOf(const TiledObject& object) {
@@ -22,8 +24,11 @@ std::string groupOf(const TiledObject& object) {
     return object.compoundLayer == 0 ? "" : "layer " + std::to_string(object.compoundLayer);
 }
 
-bool isJoint(Role role) {
-    return role == Role::hinge || role == Role::slider;
+/// Whether the object only adds to others, which must all be built before.
+bool isAttached(const TiledObject& object, Role role) {
+    return role == Role::hinge || role == Role::slider ||
+           (role == Role::light &&
+            (object.properties.integer(bearerProperty, 0) != 0 || !groupOf(object).empty()));
 }
 
 class Builder {
@@ -36,17 +41,19 @@ public:
     Level build() {
         readEnvironment();
         forEach([this](const TiledObject& object, const ObjectClass& objectClass) {
-            if (!isJoint(objectClass.role)) {
+            if (!isAttached(object, objectClass.role)) {
                 addObject(object, objectClass);
             }
         });
         std::ranges::for_each(level.objects, centreCompound);
         JointBuilder joints(level, partOwners, placement);
-        forEach([&joints](const TiledObject& object, const ObjectClass& objectClass) {
+        forEach([&](const TiledObject& object, const ObjectClass& objectClass) {
             if (objectClass.role == Role::hinge) {
                 joints.addHinge(object);
             } else if (objectClass.role == Role::slider) {
                 joints.addSlider(object);
+            } else if (objectClass.role == Role::light) {
+                addLight(object, objectClass);
             }
         });
         return std::move(level);
@@ -103,12 +110,44 @@ private:
         level.objects.push_back(buildObject(object, objectClass, part));
     }
 
+    void addLight(const TiledObject& source, const ObjectClass& objectClass) {
+        LevelObject& bearer = bearerOf(source);
+        if (bearer.id != source.id && source.rotation != 0.0F) {
+            throw std::string("a light on an object turns with it and not by itself");
+        }
+        Light light = readLight(source, objectClass);
+        light.place = bearer.pose.toLocal(placement.centreOf(source));
+        bearer.lights.push_back(std::move(light));
+    }
+
+    /// What a light belongs to: the object that it names, its group, or an object of its own.
+    LevelObject& bearerOf(const TiledObject& light) {
+        const int named = light.properties.integer(bearerProperty, 0);
+        const auto owner = partOwners.find(named == 0 ? light.id : named);
+        if (named == 0 && owner == partOwners.end()) {
+            const auto group = groups.find(groupOf(light));
+            if (group == groups.end() || !level.objects[group->second].body.has_value()) {
+                throw std::string("the group has no body to carry a light");
+            }
+            return level.objects[group->second];
+        }
+        const std::string which = "property \"" + std::string(bearerProperty) +
+                                  "\" refers to object " + std::to_string(named);
+        if (owner == partOwners.end()) {
+            throw which + ", which is not in the level";
+        }
+        if (!level.objects[owner->second].body.has_value()) {
+            throw which + ", which has no body to carry a light";
+        }
+        return level.objects[owner->second];
+    }
+
     Part buildPart(const TiledObject& object, const ObjectClass& objectClass) const {
         Part part;
         part.id = object.id;
         part.look = readAppearance(object, objectClass);
         part.solid = objectClass.role != Role::scenery && objectClass.role != Role::mesh;
-        if (objectClass.role == Role::marker) {
+        if (isPlace(objectClass.role)) {
             part.shape = {ShapeKind::box,
                           {{-markerHalf, -markerHalf},
                            {-markerHalf, markerHalf},
@@ -116,7 +155,7 @@ private:
                            {markerHalf, -markerHalf}},
                           0.0F,
                           {markerHalf, markerHalf}};
-            part.pose = {placement.centreOf(object), 0.0F};
+            part.pose = {placement.centreOf(object), placement.frameOf(object).angle};
             return part;
         }
         const PlacedShape placed = buildShape(object, placement, objectClass.role == Role::mesh);

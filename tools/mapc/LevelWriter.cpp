@@ -1,5 +1,6 @@
 #include "LevelWriter.h"
 
+#include "LightRecord.h"
 #include "RecordWriters.h"
 
 #include "sceneManager/SceneObject.h"
@@ -53,6 +54,9 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
     }
     if (object.forcePower.has_value()) {
         record(AdditionType::forcefield, [&](TextWriter& stream) { stream << *object.forcePower; });
+    }
+    for (const Light& light : object.lights) {
+        record(AdditionType::light, [&](TextWriter& stream) { writeLight(stream, light); });
     }
     if (object.dialog.has_value()) {
         record(AdditionType::dialog,

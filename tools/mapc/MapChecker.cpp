@@ -73,10 +73,16 @@ void checkLevel(const Level& level, const CommandTest& isCommand, std::vector<Pr
 void checkTextures(const Level& level, const TextureSizes& textures,
                    std::vector<Problem>& problems) {
     for (const LevelObject& object : level.objects) {
-        for (const Part& part : object.parts) {
-            if (!part.look.texture.empty() && !textures.exists(part.look.texture)) {
-                report(object, "texture \"" + part.look.texture + "\" does not exist", problems);
+        const auto check = [&](const std::string& texture) {
+            if (!texture.empty() && !textures.exists(texture)) {
+                report(object, "texture \"" + texture + "\" does not exist", problems);
             }
+        };
+        for (const Part& part : object.parts) {
+            check(part.look.texture);
+        }
+        for (const Light& light : object.lights) {
+            check(light.texture);
         }
     }
 }

@@ -22,12 +22,18 @@ constexpr auto classTable = std::to_array<ObjectClass>({
     {"Trigger", sensor, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Forcefield", forcefield, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Marker", marker, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
+    {"Light", light, "light1.tga", 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Hinge", hinge, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
     {"Slider", slider, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
 });
 
 bool isSeen(Role role) {
     return role == scenery || role == still || role == loose || role == mesh;
+}
+
+/// What is drawn to be touched keeps light off; areas that are only felt do not.
+bool blocksLight(Role role) {
+    return isSeen(role) && role != scenery;
 }
 
 float atLeastNought(const Properties& properties, const char* name, float fallback) {
@@ -70,16 +76,26 @@ const ObjectClass* findObjectClass(const std::string& name) {
     return found == classTable.end() ? nullptr : &*found;
 }
 
+std::string textureOf(const Properties& properties, const ObjectClass& objectClass) {
+    std::string texture = properties.text("texture", objectClass.texture);
+    if (texture.find(' ') != std::string::npos) {
+        throw std::string("property \"texture\" must not hold blanks");
+    }
+    return texture == "none" ? std::string() : texture;
+}
+
 Appearance readAppearance(const TiledObject& object, const ObjectClass& objectClass) {
     const Properties& properties = object.properties;
     Appearance look;
-    look.texture = properties.text("texture", objectClass.texture);
-    if (look.texture.find(' ') != std::string::npos) {
-        throw std::string("property \"texture\" must not hold blanks");
+    if (isPlace(objectClass.role)) {
+        look.texture = invisible;
+        look.colour.a = 0.0F;
+        look.z = objectClass.z;
+        look.texcoordMode = objectClass.texcoordMode;
+        look.castsShadow = false;
+        return look;
     }
-    if (look.texture == "none") {
-        look.texture.clear();
-    }
+    look.texture = textureOf(properties, objectClass);
     Colour standard;
     standard.a = isSeen(objectClass.role) ? 1.0F : 0.0F;
     look.colour = properties.colour("colour", standard);
@@ -91,7 +107,7 @@ Appearance readAppearance(const TiledObject& object, const ObjectClass& objectCl
         throw std::string("property \"texcoordMode\" must be 0, 1 or 2");
     }
     look.texcoordMode = static_cast<TexcoordMode>(mode);
-    look.castsShadow = properties.flag("castsShadow", objectClass.role != scenery);
+    look.castsShadow = properties.flag("castsShadow", blocksLight(objectClass.role));
     look.sheet = readSheet(properties);
     return look;
 }
@@ -110,7 +126,7 @@ Body readBody(const Properties& properties, const ObjectClass& objectClass) {
     body.restitution = atLeastNought(properties, "restitution", objectClass.restitution);
     const bool passable = objectClass.role == sensor || objectClass.role == forcefield;
     body.answersContact = properties.flag("collides", !passable);
-    body.kind = properties.integer("kind", objectClass.role == marker ? 0 : 1);
+    body.kind = properties.integer("kind", isPlace(objectClass.role) ? 0 : 1);
     if (body.kind < 0 || body.kind > 4) {
         throw std::string("property \"kind\" must be 0 to 4");
     }

@@ -16,6 +16,7 @@ enum class Role {
     sensor,     ///< A body that feels touches and lets everything through.
     forcefield, ///< The same, pushing what is in it.
     marker,     ///< A named place.
+    light,      ///< A light, on a body or at a place of its own.
     hinge,
     slider,
 };
@@ -37,6 +38,15 @@ std::span<const ObjectClass> objectClasses();
 
 /// Null for an unknown name.
 const ObjectClass* findObjectClass(const std::string& name);
+
+/// Whether objects of the role are places, without a shape of their own.
+constexpr bool isPlace(Role role) {
+    return role == Role::marker || role == Role::light;
+}
+
+/// The texture that the object names, or that of its class; empty for "none".
+/// @throws std::string for a name that cannot be stored
+std::string textureOf(const Properties& properties, const ObjectClass& objectClass);
 
 /// The properties of look and body of an object of the class.
 /// @throws std::string for a value that does not fit

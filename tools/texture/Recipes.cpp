@@ -11,6 +11,7 @@ std::span<const Recipe> recipes() {
         {"dust", paintDust},       {"spark", paintSpark},   {"light", paintLight},
         {"white", paintWhite},     {"slider", paintSlider}, {"cursor", paintCursor},
         {"haze", paintHaze},       {"pillar", paintPillar}, {"arch", paintArch},
+        {"cone", paintCone},       {"fire", paintFire},
     };
     return table;
 }

@@ -41,7 +41,10 @@ void paintArm(Canvas& canvas, std::uint32_t seed);
 void paintDrop(Canvas& canvas, std::uint32_t seed);
 void paintDust(Canvas& canvas, std::uint32_t seed);
 void paintSpark(Canvas& canvas, std::uint32_t seed);
+// lights.cpp
 void paintLight(Canvas& canvas, std::uint32_t seed);
+void paintCone(Canvas& canvas, std::uint32_t seed);
+void paintFire(Canvas& canvas, std::uint32_t seed);
 // interface.cpp
 void paintWhite(Canvas& canvas, std::uint32_t seed);
 void paintSlider(Canvas& canvas, std::uint32_t seed);

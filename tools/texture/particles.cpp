@@ -1,4 +1,4 @@
-// Small soft pictures that are tinted when drawn, and the light that lamps throw.
+// Small soft pictures that are tinted when drawn.
 
 #include "Noise.h"
 #include "Recipes.h"
@@ -50,20 +50,5 @@ void paintSpark(Canvas& canvas, std::uint32_t) {
             0.30f * (std::exp(-y * 22) * std::exp(-x * 4) + std::exp(-x * 22) * std::exp(-y * 4));
         float light = std::min(1.0f, core + glow + rays) * ramp(1.0f, 0.7f, r);
         return Colour{light, light, light, light};
-    });
-}
-
-// A lamp's light is added to the light map by colour alone. The picture stays opaque, because
-// shadows are cut with the texel that was drawn last.
-void paintLight(Canvas& canvas, std::uint32_t seed) {
-    Noise noise(seed);
-    canvas.fill([&](float u, float v) {
-        float r = fromMiddle(u, v);
-        float angle = std::atan2(v - 0.5f, u - 0.5f) / 6.2831853f + 0.5f;
-        float uneven = 1 + 0.05f * noise.gradient(angle, 0.5f, {9, 1}) * ramp(0.1f, 0.5f, r);
-        float fall = std::max(0.0f, 1 - r * uneven);
-        float light = 0.70f * fall * fall * (3 - 2 * fall) + 0.30f * std::exp(-r * r * 14);
-        light *= ramp(0.98f, 0.72f, r);
-        return Colour{light, light, light, 1};
     });
 }
