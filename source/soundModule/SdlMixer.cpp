@@ -48,7 +48,7 @@ public:
     SdlMixer(const SdlMixer&) = delete;
     SdlMixer& operator=(const SdlMixer&) = delete;
 
-    bool initialise() override { return SDL_Init(SDL_INIT_AUDIO) == 0; }
+    bool initialise() override;
     bool open() override;
     std::string error() override { return SDL_GetError(); }
 
@@ -71,6 +71,12 @@ private:
     std::vector<Chunk> sounds; // a SoundId is an index
     std::vector<Music> pieces; // a MusicId is an index
 };
+
+// SDL would else take the signals that end a program for events, which nobody here asks it for.
+bool SdlMixer::initialise() {
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    return SDL_Init(SDL_INIT_AUDIO) == 0;
+}
 
 bool SdlMixer::open() {
     isOpen = Mix_OpenAudio(samplesPerSecond, AUDIO_S16LSB, speakers, bufferSamples) == 0;
@@ -111,6 +117,12 @@ SoundId SdlMixer::loadSound(const std::string& path) {
 
 MusicId SdlMixer::loadMusic(const std::string& path) {
     Music music(Mix_LoadMUS(path.c_str()));
+    if (music && Mix_GetMusicType(music.get()) == MUS_MID) {
+        // Without a note in it, it would keep the audio thread, and then the game, for ever; and
+        // the game brings no instruments.
+        SDL_SetError("MIDI is not played");
+        music.reset();
+    }
     if (!music) {
         nameInError(path);
         return MusicId::none;

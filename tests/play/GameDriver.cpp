@@ -15,6 +15,7 @@
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/MapFile.h"
 #include "sceneManager/Player.h"
+#include "soundModule/SoundManager.h"
 
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 #include <GL/gl.h>
@@ -40,12 +41,18 @@ void GameDriver::step() {
         pointMouse();
     }
     inputModule().update();
-    physicsModule().update();
+    if (physicsModule().active) {
+        physicsModule().update();
+    }
+    soundManager().tick();
     if (++steps % drawEvery == 0) {
         draw();
     }
     if (!pictureDirectory.empty() && steps % pictureSteps == 0) {
         screenshot(pictureDirectory + "/step" + std::to_string(steps) + ".ppm");
+    }
+    if (afterStep) {
+        afterStep(*this);
     }
 }
 
@@ -64,7 +71,8 @@ void GameDriver::hold(const std::string& key, bool down) {
                                                  {"right", 'D'},
                                                  {"up", 'W'},
                                                  {"down", 'S'},
-                                                 {"shift", platform::keyLeftShift}};
+                                                 {"shift", platform::keyLeftShift},
+                                                 {"escape", platform::keyEscape}};
     if (key == "mouse" || key == "mouse2") {
         const int button = key == "mouse" ? platform::leftMouseButton : platform::rightMouseButton;
         down ? window.pressMouse(button) : window.releaseMouse(button);

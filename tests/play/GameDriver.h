@@ -2,6 +2,7 @@
 
 #include <LinearMath/btVector3.h>
 
+#include <functional>
 #include <set>
 #include <string>
 
@@ -10,14 +11,15 @@ class SceneObject;
 class ScriptedWindow;
 
 /// Plays the real modules step by step, with the input of a scripted window: one step is one poll
-/// of the input and one update of physics, and a frame is drawn now and then.
+/// of the input and, unless the game is paused, one update of physics, and a frame is drawn now and
+/// then.
 class GameDriver {
 public:
     /// The engine must be set up. Starts the game, as the program does.
     explicit GameDriver(ScriptedWindow& window);
 
     void step();
-    /// Presses or releases: left, right, up, down, shift, mouse, mouse2.
+    /// Presses or releases: left, right, up, down, shift, escape, mouse, mouse2.
     void hold(const std::string& key, bool down);
     /// Keeps the mouse at a place in world units from the protagonist, from now on.
     void aim(float x, float y);
@@ -36,6 +38,7 @@ public:
     void keepPictures(const std::string& directory, int everySteps);
 
     int steps = 0;
+    std::function<void(const GameDriver&)> afterStep; ///< Called at the end of each; may be empty.
 
 private:
     void pointMouse();

@@ -88,9 +88,7 @@ void EngineFixture::SetUp() {
     moduleManager();
     ASSERT_TRUE(window->open({windowWidth, windowHeight, false, 0})) << window->failure();
     setPainter(std::make_unique<Painter>(makeDevice()));
-    auto silent = std::make_unique<SilentMixer>();
-    mixer = silent.get();
-    setMixer(std::move(silent));
+    setMixer(makeMixer());
     createServices();
     sceneManager();
 }
@@ -131,4 +129,10 @@ std::unique_ptr<PaintDevice> EngineFixture::makeDevice() {
     auto recorder = std::make_unique<RecordingDevice>();
     device = recorder.get();
     return recorder;
+}
+
+std::unique_ptr<Mixer> EngineFixture::makeMixer() {
+    auto silent = std::make_unique<SilentMixer>();
+    mixer = silent.get();
+    return silent;
 }

@@ -35,10 +35,12 @@ protected:
     virtual std::unique_ptr<platform::Window> makeInnerWindow() { return nullptr; }
     /// Called when the window is open; a `RecordingDevice`, kept as `device`.
     virtual std::unique_ptr<PaintDevice> makeDevice();
+    /// A `SilentMixer`, kept as `mixer`; null for the audio library's.
+    virtual std::unique_ptr<Mixer> makeMixer();
 
     TempDirectory directory;
     std::string startDirectory;        ///< Where the test program was started; absolute.
     ScriptedWindow* window = nullptr;  ///< Owned by the process.
     RecordingDevice* device = nullptr; ///< Owned by the painter; null if `makeDevice` made another.
-    SilentMixer* mixer = nullptr;      ///< Owned by the sound manager.
+    SilentMixer* mixer = nullptr;      ///< Owned by the sound manager; null if there is another.
 };

@@ -1,6 +1,7 @@
 #include "soundModule/SdlMixer.h"
 
 #include "support/TempDirectory.h"
+#include "support/WavFile.h"
 
 #include "ProcessValues.h"
 #include "soundModule/SoundManager.h"
@@ -9,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
@@ -19,22 +21,11 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
-std::string bytes(unsigned value, int count) {
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-        text += static_cast<char>(value >> (8 * i) & 0xFFU);
-    }
-    return text;
-}
-
 /// A quiet WAV file of that many samples.
-std::string makeWav(unsigned rate, unsigned channels, unsigned bits, unsigned samples) {
-    const unsigned frame = channels * bits / 8;
-    const std::string data(static_cast<std::size_t>(samples) * frame, bits == 8 ? '\x80' : '\0');
-    return "RIFF" + bytes(36 + static_cast<unsigned>(data.size()), 4) + "WAVEfmt " + bytes(16, 4) +
-           bytes(1, 2) + bytes(channels, 2) + bytes(rate, 4) + bytes(rate * frame, 4) +
-           bytes(frame, 2) + bytes(bits, 2) + "data" +
-           bytes(static_cast<unsigned>(data.size()), 4) + data;
+std::string makeQuiet(unsigned rate, unsigned channels, unsigned bits, unsigned samples) {
+    return makeWav(
+        rate, channels, bits,
+        std::string(std::size_t{samples} * channels * bits / 8, bits == 8 ? '\x80' : '\0'));
 }
 
 /// The audio library on a device that swallows all, in real time.
@@ -81,20 +72,21 @@ protected:
 
 TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkippedAndOddOnesPlay) {
     makeFolders();
-    const std::string good = makeWav(44100, 2, 16, 500);
+    const std::string good = makeQuiet(44100, 2, 16, 500);
     directory.write("sound/good.wav", good);
-    directory.write("sound/eight.wav", makeWav(8000, 1, 8, 500));
-    directory.write("sound/fast.wav", makeWav(48000, 1, 16, 500));
+    directory.write("sound/eight.wav", makeQuiet(8000, 1, 8, 500));
+    directory.write("sound/fast.wav", makeQuiet(48000, 1, 16, 500));
     directory.write("sound/cut.wav", good.substr(0, 600));
     directory.write("sound/empty.wav", "");
-    directory.write("sound/silent.wav", makeWav(44100, 2, 16, 0));
+    directory.write("sound/silent.wav", makeQuiet(44100, 2, 16, 0));
     directory.write("sound/short.wav", good.substr(0, 30));
     directory.write("sound/text.wav", "not a sound at all");
     directory.write("sound/lying.wav", good.substr(0, 40) + "\xFF\xFF\xFF\xFF" + good.substr(44));
-    directory.write("sound/noChannels.wav", makeWav(44100, 0, 16, 4));
+    directory.write("sound/noChannels.wav", makeQuiet(44100, 0, 16, 4));
     directory.write("music/empty.ogg", "");
     directory.write("music/text.ogg", "OggS but no more");
     directory.write("music/good.wav", good);
+    directory.write("music/empty.mid", std::string("MThd\0\0\0\6\0\0\0\0\0\0", 14));
     std::filesystem::create_directory(directory.file("sound/folder.wav"));
 
     EXPECT_THAT(complaintsOfLoading(),
@@ -102,8 +94,8 @@ TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkippedAndOddOnesPlay) {
                       HasSubstr("silent.wav: no samples\n"), HasSubstr("short.wav: "),
                       HasSubstr("text.wav: "), HasSubstr("noChannels.wav: "),
                       HasSubstr("folder.wav: "), HasSubstr("music/empty.ogg: "),
-                      HasSubstr("text.ogg: "), Not(HasSubstr("good")), Not(HasSubstr("eight")),
-                      Not(HasSubstr("fast"))));
+                      HasSubstr("text.ogg: "), HasSubstr("empty.mid: "), Not(HasSubstr("good")),
+                      Not(HasSubstr("eight")), Not(HasSubstr("fast"))));
     testing::internal::CaptureStderr();
     for (const char* name : {"good", "eight", "fast", "cut", "empty", "silent", "lying"}) {
         soundManager().playFlat(std::string(name) + ".wav", 128);
@@ -119,7 +111,7 @@ TEST_F(SdlMixerTest, WithoutFoldersTheGameIsMerelySilent) {
 }
 
 TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselves) {
-    directory.write("sound.wav", makeWav(44100, 2, 16, 4410));
+    directory.write("sound.wav", makeQuiet(44100, 2, 16, 4410));
     const std::unique_ptr<Mixer> mixer = makeSdlMixer();
     ASSERT_TRUE(mixer->initialise());
     ASSERT_TRUE(mixer->open());
@@ -142,6 +134,18 @@ TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselves) {
     EXPECT_TRUE(comesTrue([&] { return mixer->takeMusicFinished(); }));
     EXPECT_FALSE(mixer->takeMusicFinished()) << "told once";
     ASSERT_TRUE(mixer->fadeInMusic(music, 20)); // still running when all is closed
+}
+
+TEST_F(SdlMixerTest, ASignalToEndStillEndsTheProcess) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        EXPECT_EXIT(
+            {
+                soundManager();
+                std::raise(signal);
+                std::_Exit(0);
+            },
+            testing::KilledBySignal(signal), "");
+    }
 }
 
 TEST_F(SdlMixerTest, WithoutAnAudioDeviceTheProcessEnds) {

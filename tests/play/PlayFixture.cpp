@@ -1,0 +1,54 @@
+#include "PlayFixture.h"
+
+#include "Walkthrough.h"
+
+#include "support/HeldWindow.h"
+
+#include "Files.h"
+#include "graphicsModule/GlDevice.h"
+
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+void PlayFixture::prepareDirectory() {
+    EngineFixture::prepareDirectory();
+    fs::remove_all("data");
+    fs::create_directory_symlink(TOLMERE_GAME_DIRECTORY "/data", "data");
+    fs::remove("lang_eng.txt");
+    fs::copy_file(TOLMERE_GAME_DIRECTORY "/lang_eng.txt", "lang_eng.txt");
+    fs::copy(TOLMERE_GAME_DIRECTORY "/maps", "maps",
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    if (pictures != nullptr) {
+        return;
+    }
+    std::string settings = readFile("config.txt");
+    settings.replace(settings.find("WINDOW_WIDTH 1280"), 17, "WINDOW_WIDTH 820");
+    settings.replace(settings.find("WINDOW_HEIGHT 800"), 17, "WINDOW_HEIGHT 512");
+    writeFile(settings, "config.txt");
+}
+
+std::unique_ptr<platform::Window> PlayFixture::makeInnerWindow() {
+    return std::make_unique<HeldWindow>();
+}
+
+std::unique_ptr<PaintDevice> PlayFixture::makeDevice() {
+    return std::make_unique<GlDevice>();
+}
+
+std::size_t PlayFixture::play(const std::string& chapter, const char* picture,
+                              std::function<void(const GameDriver&)> afterStep) {
+    GameDriver game(*window);
+    game.afterStep = std::move(afterStep);
+    if (pictures != nullptr) {
+        game.keepPictures(pictures, 60);
+    }
+    try {
+        const Walkthrough walkthrough(pathOf(chapter));
+        walkthrough.play(game);
+    } catch (const std::string& reason) {
+        game.screenshot(startDirectory + "/" + picture);
+        ADD_FAILURE() << reason << "\nseen in " << startDirectory << "/" << picture;
+    }
+    return GameDriver::sceneHash();
+}

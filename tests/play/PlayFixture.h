@@ -1,0 +1,30 @@
+#pragma once
+
+#include "GameDriver.h"
+
+#include "support/EngineFixture.h"
+
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+/// The engine among the built assets, in a small window: software drawing is bound by pixels. With
+/// TOLMERE_PICTURES=DIRECTORY the window has its full size and a picture of every second is kept
+/// there.
+class PlayFixture : public EngineFixture {
+protected:
+    void prepareDirectory() override;
+    std::unique_ptr<platform::Window> makeInnerWindow() override;
+    std::unique_ptr<PaintDevice> makeDevice() override;
+
+    static std::string pathOf(const std::string& chapter) {
+        return TOLMERE_MAP_SOURCES "/" + chapter + ".walk";
+    }
+
+    /// Plays a walkthrough, and tells of every step if asked to; a failure names the place and
+    /// leaves a picture of it. Returns the hash of the scene at the end.
+    std::size_t play(const std::string& chapter, const char* picture,
+                     std::function<void(const GameDriver&)> afterStep = nullptr);
+
+    const char* pictures = std::getenv("TOLMERE_PICTURES");
+};
