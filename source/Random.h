@@ -19,3 +19,8 @@ inline int drawRandom(std::uint32_t seed) {
     }
     return static_cast<int>(((seed * 1103515245U + 12345U) >> 16U) & 0x7FFFU);
 }
+
+/// One draw as a number from 0 to 1, both included.
+inline float drawUnit() {
+    return static_cast<float>(drawRandom() / 32767.0);
+}

@@ -26,3 +26,6 @@ GraphicsObjectData makeCircleData(float radius, int texture, float z, float para
 
 /// Reads the part that every polygon's record begins with, without its type.
 GraphicsObjectData readGraphicsObjectData(TextReader& stream);
+/// Reads the end of that part, which is the end of a water's record too: texture, parallax, depth
+/// and modifiers.
+void readLook(TextReader& stream, GraphicsObjectData& data);

@@ -146,6 +146,10 @@ void GraphicsObjecte::write(TextWriter& stream) const {
         stream << colour[0] << colour[1] << colour[2] << colour[3];
         stream << data.texcoords[i] << data.texcoords[i + 1];
     }
+    writeLook(stream);
+}
+
+void GraphicsObjecte::writeLook(TextWriter& stream) const {
     stream << textureStore().nameOf(data.texture) << data.parallax << getZ();
     stream << data.modifiers.size();
     for (const Gr_Modifier* modifier : data.modifiers) {

@@ -51,6 +51,8 @@ public:
 protected:
     /// The polygon as the painter takes it: borrowed, nothing is copied.
     ShapeArrays arrays() const;
+    /// The end of a record, as `readLook` reads it.
+    void writeLook(TextWriter& stream) const;
     /// Diagonal of the world bounds, for `debugDraw`.
     void drawBoundsLine() const;
     void applyModifiers();

@@ -7,6 +7,7 @@
 #include "TextureStore.h"
 #include "TransformGraphicsObject.h"
 #include "TriangleMesh.h"
+#include "WaterGraphics.h"
 
 #include <array>
 #include <memory>
@@ -23,11 +24,13 @@ struct RecordReader {
     GraphicsObject* (*read)(TextReader& stream);
 };
 
-constexpr std::array<RecordReader, 4> recordReaders{{
+constexpr std::array<RecordReader, 6> recordReaders{{
     {1, make<TransformGraphicsObject>},
     {2, make<PhysicsGraphicsObject>},
     {3, make<MultiGraphics>},
     {4, make<TriangleMesh>},
+    {5, make<WaterGraphics>},
+    {6, make<StaticWaterGraphics>},
 }};
 
 /// Counts how deep groups lie within groups, so that a damaged file cannot exhaust the stack.
@@ -97,11 +100,15 @@ GraphicsObject* readGraphicsObject(TextReader& stream) {
 GraphicsObjectData readGraphicsObjectData(TextReader& stream) {
     GraphicsObjectData data;
     readVertices(stream, data);
+    readLook(stream, data);
+    return data;
+}
+
+void readLook(TextReader& stream, GraphicsObjectData& data) {
     data.texture = textureStore().find(stream.read<std::string>());
     stream >> data.parallax >> data.z;
     data.modifiers = readModifiers(stream);
     stream.setRecord("graphics object");
-    return data;
 }
 
 Gr_Modifier* readModifier(TextReader& stream) {

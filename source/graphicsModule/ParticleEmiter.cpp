@@ -24,11 +24,6 @@ constexpr std::size_t mostParticles = 20'000;
 
 const btVector3 zAxis(0.0F, 0.0F, 1.0F);
 
-/// A number from 0 to 1, both included.
-float drawUnit() {
-    return static_cast<float>(drawRandom() / 32767.0);
-}
-
 bool isDisc(const btCollisionShape& shape) {
     return shape.getShapeType() == CONVEX_2D_SHAPE_PROXYTYPE &&
            static_cast<const btConvex2dShape&>(shape).getChildShape()->getShapeType() ==
@@ -74,14 +69,18 @@ void paintParticle(const Particle& particle) {
 
 } // namespace
 
-ParticleEmiter::ParticleEmiter(const ParticleParams& look)
-    : So_Addition(AdditionType::particleEmiter) {
+ParticleEmiter::ParticleEmiter(const ParticleParams& look, DrawnBy drawer)
+    : So_Addition(AdditionType::particleEmiter),
+      drawnBy(drawer) {
     setParams(look);
-    graphicsModule().addObject(this);
+    if (drawnBy == DrawnBy::frame) {
+        graphicsModule().addObject(this);
+    }
 }
 
 ParticleEmiter::~ParticleEmiter() {
-    if (auto* module = existingService<GraphicsModule>()) {
+    auto* module = existingService<GraphicsModule>();
+    if (module != nullptr && drawnBy == DrawnBy::frame) {
         module->detachObject(this);
     }
 }

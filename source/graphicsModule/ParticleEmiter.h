@@ -18,10 +18,14 @@ struct Particle {
 
 /// A pool of particles. On a scene object it sprays from the object's body at a steady rate, and
 /// the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of
-/// `GraphicsModule` from construction to destruction without being owned there.
+/// `GraphicsModule` from construction to destruction without being owned there, unless it is a part
+/// of one of them.
 class ParticleEmiter : public So_Addition, public GraphicsObject {
 public:
-    explicit ParticleEmiter(const ParticleParams& look);
+    /// Who calls `draw`: the frame, or an object of the frame that the emitter is a part of.
+    enum class DrawnBy { frame, holder };
+
+    explicit ParticleEmiter(const ParticleParams& look, DrawnBy drawer = DrawnBy::frame);
     ~ParticleEmiter() override;
 
     /// Reads what follows the type. The result belongs to the caller.
@@ -59,6 +63,7 @@ private:
     void emitFrom(SceneObject& owner);
     float drawSpin() const;
 
+    DrawnBy drawnBy;
     std::vector<Particle> particles; // oldest first
     std::array<float, 4> colourStep{};
     float sizeStep = 0.0F;

@@ -52,6 +52,9 @@ public:
     virtual bool swimDown();
     virtual bool swimLeft();
     virtual bool swimRight();
+    /// Told by the water that lets the character go: coming up counts as a jump, which the key for
+    /// up lifts further.
+    void leaveWater();
     virtual void die();
     virtual void setStatistics(const PlayerStatistics& values);
 

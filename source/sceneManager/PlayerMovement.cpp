@@ -213,6 +213,10 @@ bool Player::swimDown() {
     return false;
 }
 
+void Player::leaveWater() {
+    lastJumpStep = physicsModule().stepCount;
+}
+
 void Player::setWalkTarget(const btVector3& point) {
     const btVector3 place = body().getWorldTransform().getOrigin();
     if (place.distance(point) < arrivalDistance) {

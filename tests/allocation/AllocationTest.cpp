@@ -3,13 +3,17 @@
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LightAdd.h"
+#include "graphicsModule/WaterGraphics.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
+#include "physicsModule/PhysicsObject.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
+#include "sceneManager/So_Addons/WaterAddition.h"
 #include "sceneManager/TestPlayer.h"
 
+#include <BulletDynamics/Dynamics/btRigidBody.h>
 #include <LinearMath/btAlignedAllocator.h>
 
 #include <cstdlib>
@@ -97,6 +101,25 @@ void addMachines() {
     graphicsModule().camera->setY(300.0F);
 }
 
+/// A pool with waves in which crates bob.
+void addPool() {
+    PhysicsObject* basin = createBox(0.0F, -300.0F, 400.0F, 150.0F, 0.0F, 0.5F, 0.0F);
+    basin->body->setCollisionFlags(basin->body->getCollisionFlags() |
+                                   btCollisionObject::CF_NO_CONTACT_RESPONSE);
+    auto* waves = new WaterGraphics(-400.0F, -150.0F, 400.0F, 150.0F, -1, 0.2F, 1.0F, 2, 0.2F, 0.4F,
+                                    0.5F, 0.7F);
+    waves->setPhysicsObject(basin);
+    auto* water = new SceneObject({basin, waves});
+    water->addAddition(new WaterAddition(0.0F));
+    sceneManager().addSceneObject(water);
+    for (int i = 0; i < 10; ++i) {
+        const float x = static_cast<float>(i) * 60.0F - 270.0F;
+        auto* crate = new SceneObject(makeBoxParts(look(1.0F), x, -100.0F, 20.0F, 20.0F));
+        crate->physicsObject->waterFactor = 1.1F;
+        sceneManager().addSceneObject(crate);
+    }
+}
+
 class Allocation : public EngineFixture {
 protected:
     void SetUp() override {
@@ -135,6 +158,19 @@ TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
         inputModule().update();
     }
     EXPECT_EQ(allocations, 0U) << "in a poll of the input";
+}
+
+TEST_F(Allocation, CratesBobInWavesWithoutAllocating) {
+    addPool();
+    step(600);
+    frame(2);
+    allocations = 0;
+    step(120);
+    for (int i = 0; i < 20; ++i) {
+        graphicsModule().update();
+    }
+    EXPECT_EQ(allocations, 0U);
+    EXPECT_EQ(sceneManager().objects.back()->waterCount, 1) << "afloat";
 }
 
 TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {

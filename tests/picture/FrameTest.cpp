@@ -5,7 +5,9 @@
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/InterfaceGraphicsObject.h"
 #include "graphicsModule/Text.h"
+#include "graphicsModule/TextureStore.h"
 #include "graphicsModule/TransformGraphicsObject.h"
+#include "graphicsModule/WaterGraphics.h"
 
 #include <gtest/gtest.h>
 
@@ -138,6 +140,32 @@ TEST_F(FrameTest, BrightnessBeyondAWholeNumberAddsThatShare) {
     brightness = 1.0F;
     draw();
     expectColour(centreX, centreY, 0.4F, 0.2F, 0.6F);
+}
+
+TEST_F(FrameTest, WaterLiesOverWhatIsBehindItAndTakesTheLightOfItsSlice) {
+    graphicsModule().ambient = {0.5F, 1.0F, 0.5F};
+    addSquare(0.0F, 0.0F, 300.0F, -0.5F, 1.0F, 0.0F, 0.0F);
+    addSquare(0.0F, -50.0F, 20.0F, 0.5F, 1.0F, 1.0F, 1.0F); // stands in front
+    auto* water = new WaterGraphics(-200.0F, -100.0F, 200.0F, 0.0F, textureStore().find("null.tga"),
+                                    0.0F, 1.0F, 2, 0.0F, 0.5F, 1.0F, 0.5F);
+    graphicsModule().addObject(water);
+    draw();
+    expectColour(centreX - 100.0F, centreY - 50.0F, 0.25F, 0.25F, 0.25F);
+    expectColour(centreX, centreY - 50.0F, 0.5F, 1.0F, 0.5F);
+    expectColour(centreX - 100.0F, centreY + 10.0F, 0.5F, 0.0F, 0.0F);
+    expectColour(centreX - 100.0F, centreY - 110.0F, 0.5F, 0.0F, 0.0F);
+
+    for (int i = 0; i < 20; ++i) { // until the surface has risen to a crest of 20 units and more
+        water->splash(-100.0F, 40.0F, 19.0F);
+        water->updateSurface();
+    }
+    draw();
+    expectColour(centreX - 100.0F, centreY + 10.0F, 0.25F, 0.25F, 0.25F);
+
+    niceEffects = 0; // water is no mere effect; in front of the light map the room does not tint it
+    water->setZ(1.2F);
+    draw();
+    expectColour(centreX - 100.0F, centreY - 50.0F, 0.25F, 0.25F, 0.5F);
 }
 
 TEST_F(FrameTest, TextTakesItsLettersFromTheFont) {

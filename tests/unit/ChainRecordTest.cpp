@@ -53,7 +53,7 @@ TEST(ChainRecord, DamageIsToldAndLeavesNothingBehind) {
              "9 0 1 2 50 ",  // hit points inside a chain
              "33 ",
              "-1 ",          // no such type
-             "17 0 0 ",      // a type without a reader
+             "33 0 0 ",      // a type without a reader
              "0 1 2 0 ",     // a dialog's flag that is no flag
              "0 9 0 0 1 a ", // more entries than the text can hold
              "0 1 0 0 9 a 5 ",

@@ -200,6 +200,24 @@ TEST_F(MapCompilerTest, LightsStandByThemselvesOrHangOnBodies) {
     EXPECT_EQ(0, polygonOf(bundle, 3).castsShadow) << "areas that are only felt keep no light off";
 }
 
+TEST_F(MapCompilerTest, AWaterIsABoxToSwimInWithOrWithoutWaves) {
+    const std::string area = R"("type":"Water","x":0,"y":100,"width":200,"height":60)";
+    const SceneBundle bundle =
+        load(mapOf(R"({"id":1,"name":"POOL",)" + area + R"(},{"id":2,)" + area +
+                   with({{"still", true}, {"colour", "#80ff0000"}}) + "}"));
+    EXPECT_EQ(btVector3(100, -30, 0), bodyOf(bundle, 0).getWorldTransform().getOrigin());
+    EXPECT_FALSE(bodyOf(bundle, 0).hasContactResponse());
+    ASSERT_EQ(2U, bundle.objects[0]->additions.size());
+    EXPECT_EQ(AdditionType::water, bundle.objects[0]->additions[1]->type);
+    const std::vector<float>& surface = polygonOf(bundle, 0).getData().vertices;
+    EXPECT_EQ(-100.0F, surface.front());
+    EXPECT_EQ(100.0F, surface[surface.size() - 2]) << "drawn up to its right end";
+    EXPECT_EQ(30.0F, surface.back());
+    EXPECT_EQ(5, bundle.objects[0]->graphicsObject->type);
+    EXPECT_EQ(6, bundle.objects[1]->graphicsObject->type);
+    EXPECT_EQ(1.0F, polygonOf(bundle, 1).getData().colours[0]);
+}
+
 TEST_F(MapCompilerTest, ACompoundTurnsAboutItsCentreOfMass) {
     const std::string layer = R"("class":"Compound","properties":[{"name":"mass","value":2.5}],)";
     const std::string parts =
@@ -339,6 +357,9 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
         {crate + with({{"dialog", "60 \u0142"}}) + "}", "letters with marks belong"},
         {crate + with({{"forcePower", "much"}}) + "}", "\"forcePower\" must be a number"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"parallax", 0.5}}) + "}", "lit slice"},
+        {R"({"id":6,"type":"Water","x":0,"y":0,"width":20,"height":50})", "wider than 20 units"},
+        {R"({"id":6,"type":"Water","rotation":5)" + area + "}", "a rectangle that is not turned"},
+        {R"({"id":6,"type":"Water")" + area + with({{"group", "a"}}) + "}", "part of a group"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"sheetColumns", 4}, {"sheetRows", 2}}) + "}",
          "as many rows as columns"},
     };

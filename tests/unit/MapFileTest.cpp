@@ -27,6 +27,7 @@ const std::string animated = "2 " + polygon + sprite + "0 ";
 const std::string group = "3 2 " + bound + "3 1 " + bound;
 const std::string fourParts = "3 4 " + bound + bound + bound + bound;
 const std::string mesh = "4 6 0 0 1 1 1 1 0 0 9 0 1 1 1 1 1 0 0 9 1 1 1 1 0 1 unknown 1 0 0 ";
+const std::string water = "-20.5 -10 20 10 0.25 0.5 0.75 0.5 2 unknown 1 -0.25 ";
 
 const std::string box = "17 0.5 0 0 10 2 100 50 1 0 0 1 0 0 1 1 0.7 ";
 const std::string disc = "8 1 0 2.5 15 200 300 1 0 0 1 10 -5 1 1 0.7 ";
@@ -63,7 +64,7 @@ std::string chainRecord() {
 
 /// A map with every kind of graphics, shape, class and joint, and a chain of every word.
 std::string everyRecord() {
-    return "9 0 " + placed + noBody + "1 2 30 " +       // 0: scenery with hit points
+    return "11 0 " + placed + noBody + "1 2 30 " +      // 0: scenery with hit points
            "-1 " + group + noBody + "0 " +              // 1
            "0 " + mesh + box + "1 " + chainRecord() +   // 2
            "0 " + animated + disc + "0 " +              // 3
@@ -72,6 +73,8 @@ std::string everyRecord() {
            "2 " + bound + compound + "0 2 -7 8 9 10 " + // 6: with marks
            "3 " + bound + passable + "0 0.5 1 " +       // 7: a force field
            "4 " + fourParts + swimmer + "1 23 " + statistics + "412 " + // 8: the protagonist
+           "0 5 " + water + sprite + passable + "1 17 3.5 " +           // 9
+           "0 6 " + water + "0 " + passable + "1 17 0 " +               // 10: still
            "4 " + worldHinge + hinge + spring + worldSpring + "0.1 0.2 0.3 0  ";
 }
 
@@ -127,7 +130,7 @@ protected:
 
 TEST_F(MapFileTest, EveryRecordComesBackAsItWas) {
     sceneManager().addScene(parse(everyRecord()));
-    ASSERT_EQ(sceneManager().objects.size(), 9U);
+    ASSERT_EQ(sceneManager().objects.size(), 11U);
     ASSERT_EQ(physicsModule().getJoints().size(), 4U);
     EXPECT_EQ(save(), everyRecord());
 
@@ -223,6 +226,10 @@ TEST_F(MapFileTest, DamagedGraphicsAreRefused) {
         "3 -1 ",                                           //
         "2 " + emptyPolygon + "1 0 4 0 0 0 0 6 1 1 ",      // a sheet without columns
         "2 " + emptyPolygon + "1 0 4 0 0 2 3 6 1 1 ",      // a flag that is no flag
+        "5 -1 -1 nan 1 1 1 1 1 1 unknown 1 0 0 ",          //
+        "5 -9e5 -1 9e5 1 1 1 1 1 1 unknown 1 0 0 ",        // wider than any level
+        "6 -1 -1 2e6 1 1 1 1 1 1 unknown 1 0 0 ",          //
+        "6 -1 -1 1 1 1 1 1 1 3 unknown 1 0 0 ",            // a mode that is none
         "2 2 1 2 0.1 0.2 nan 0.4 0.5 0.6 unknown 1 0 0 1", // no number
     };
     for (const std::string& text : damaged) {

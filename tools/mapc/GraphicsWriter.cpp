@@ -8,7 +8,14 @@ namespace mapc {
 
 namespace {
 
-enum RecordType { transformRecord = 1, physicsRecord = 2, groupRecord = 3, meshRecord = 4 };
+enum RecordType {
+    transformRecord = 1,
+    physicsRecord = 2,
+    groupRecord = 3,
+    meshRecord = 4,
+    waveRecord = 5,
+    stillWaterRecord = 6,
+};
 
 RecordType recordTypeOf(const Part& part, bool followsBody) {
     if (part.shape.kind == ShapeKind::mesh) {
@@ -37,6 +44,28 @@ void writeSheet(TextWriter& stream, const SpriteSheet& sheet) {
            << firstFrame;
 }
 
+/// The end that the records of polygons and of water share.
+void writeLook(TextWriter& stream, const Appearance& look) {
+    stream << (look.texture.empty() ? "unknown" : look.texture.c_str()) << look.parallax << look.z;
+    stream << static_cast<unsigned>(look.sheet.has_value());
+    if (look.sheet.has_value()) {
+        writeSheet(stream, *look.sheet);
+    }
+}
+
+/// The engine hangs columns 10 units apart from the left edge, as long as they stand before the
+/// right one. Half of that more lets the last column stand where the water nearest ends.
+void writeWater(TextWriter& stream, const Part& part, Surface surface) {
+    constexpr float halfColumn = 5.0F;
+    const Point half = part.shape.half;
+    const Appearance& look = part.look;
+    stream << static_cast<int>(surface == Surface::waves ? waveRecord : stillWaterRecord);
+    stream << -half.x << -half.y << half.x + halfColumn << half.y;
+    stream << look.colour.r << look.colour.g << look.colour.b << look.colour.a;
+    stream << static_cast<int>(look.texcoordMode);
+    writeLook(stream, look);
+}
+
 void writePart(TextWriter& stream, const Part& part, const LevelObject& object,
                TextureSizes& textures) {
     const Appearance& look = part.look;
@@ -51,11 +80,7 @@ void writePart(TextWriter& stream, const Part& part, const LevelObject& object,
         stream << vertex.x << vertex.y << look.colour.r << look.colour.g << look.colour.b
                << look.colour.a << texcoords[i].x << texcoords[i].y;
     }
-    stream << (look.texture.empty() ? "unknown" : look.texture.c_str()) << look.parallax << look.z;
-    stream << static_cast<unsigned>(look.sheet.has_value());
-    if (look.sheet.has_value()) {
-        writeSheet(stream, *look.sheet);
-    }
+    writeLook(stream, look);
     if (type == transformRecord) {
         const float c = std::cos(part.pose.angle);
         const float s = std::sin(part.pose.angle);
@@ -69,6 +94,10 @@ void writePart(TextWriter& stream, const Part& part, const LevelObject& object,
 } // namespace
 
 void writeGraphics(TextWriter& stream, const LevelObject& object, TextureSizes& textures) {
+    if (object.water.has_value()) {
+        writeWater(stream, object.parts.front(), *object.water);
+        return;
+    }
     if (object.parts.size() > 1) {
         stream << static_cast<int>(groupRecord) << object.parts.size();
     }

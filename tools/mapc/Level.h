@@ -94,6 +94,9 @@ struct Light {
     std::string texture;
 };
 
+/// What makes a box a body of water.
+enum class Surface { still, waves };
+
 /// A scene object to be.
 struct LevelObject {
     int id = 0;
@@ -102,6 +105,7 @@ struct LevelObject {
     std::vector<Part> parts;
     std::optional<Body> body;
     std::optional<Point> force; ///< Makes it a force field.
+    std::optional<Surface> water;
     std::vector<std::string> scripts;
     std::optional<int> health;
     std::optional<Damage> damage;

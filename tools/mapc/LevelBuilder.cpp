@@ -15,6 +15,7 @@ namespace {
 
 constexpr float markerHalf = 5.0F;
 constexpr const char* bearerProperty = "on"; // the object that a light hangs on
+constexpr float narrowestWater = 20.0F;
 
 /// What makes several objects one: a property, or a layer of class Compound around them.
 std::string groupOf(const TiledObject& object) {
@@ -29,6 +30,18 @@ bool isAttached(const TiledObject& object, Role role) {
     return role == Role::hinge || role == Role::slider ||
            (role == Role::light &&
             (object.properties.integer(bearerProperty, 0) != 0 || !groupOf(object).empty()));
+}
+
+void checkWater(const TiledObject& object, const Part& part, const std::string& group) {
+    if (part.shape.kind != ShapeKind::box || object.rotation != 0.0F) {
+        throw std::string("a Water is a rectangle that is not turned");
+    }
+    if (!group.empty()) {
+        throw std::string("a Water cannot be part of a group");
+    }
+    if (part.shape.half.x <= narrowestWater * 0.5F) {
+        throw std::string("a Water must be wider than 20 units, to have three columns");
+    }
 }
 
 class Builder {
@@ -95,6 +108,9 @@ private:
     void addObject(const TiledObject& object, const ObjectClass& objectClass) {
         const Part part = buildPart(object, objectClass);
         const std::string group = groupOf(object);
+        if (objectClass.role == Role::water) {
+            checkWater(object, part, group);
+        }
         const auto [entry, isNew] = groups.try_emplace(group, level.objects.size());
         if (!group.empty() && !isNew) {
             LevelObject& compound = level.objects[entry->second];
@@ -178,6 +194,9 @@ private:
         if (objectClass.role == Role::forcefield) {
             object.force =
                 Point{properties.number("forceX", 0.0F), properties.number("forceY", 0.0F)};
+        }
+        if (objectClass.role == Role::water) {
+            object.water = properties.flag("still", false) ? Surface::still : Surface::waves;
         }
         readAdditions(properties, object);
         return object;

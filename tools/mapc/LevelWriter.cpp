@@ -58,6 +58,9 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
     for (const Light& light : object.lights) {
         record(AdditionType::light, [&](TextWriter& stream) { writeLight(stream, light); });
     }
+    if (object.water.has_value()) {
+        record(AdditionType::water, [](TextWriter& stream) { stream << 0.0F; });
+    }
     if (object.dialog.has_value()) {
         record(AdditionType::dialog,
                [&](TextWriter& stream) { writeDialog(stream, *object.dialog); });

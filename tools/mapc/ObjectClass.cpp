@@ -21,6 +21,7 @@ constexpr auto classTable = std::to_array<ObjectClass>({
     {"Mesh", mesh, "rock.tga", 0.1F, world, 0.0F, 0.0F, 0.0F},
     {"Trigger", sensor, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Forcefield", forcefield, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
+    {"Water", water, "water.tga", -0.2F, mixed, 0.0F, 0.5F, 0.0F},
     {"Marker", marker, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Light", light, "light1.tga", 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Hinge", hinge, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
@@ -34,6 +35,16 @@ bool isSeen(Role role) {
 /// What is drawn to be touched keeps light off; areas that are only felt do not.
 bool blocksLight(Role role) {
     return isSeen(role) && role != scenery;
+}
+
+Colour standardColour(Role role) {
+    Colour colour;
+    if (role == water) {
+        colour = {0.40F, 0.62F, 0.66F, 0.82F};
+    } else if (!isSeen(role)) {
+        colour.a = 0.0F;
+    }
+    return colour;
 }
 
 float atLeastNought(const Properties& properties, const char* name, float fallback) {
@@ -96,9 +107,7 @@ Appearance readAppearance(const TiledObject& object, const ObjectClass& objectCl
         return look;
     }
     look.texture = textureOf(properties, objectClass);
-    Colour standard;
-    standard.a = isSeen(objectClass.role) ? 1.0F : 0.0F;
-    look.colour = properties.colour("colour", standard);
+    look.colour = properties.colour("colour", standardColour(objectClass.role));
     look.colour.a *= object.opacity;
     look.z = properties.number("z", objectClass.z);
     look.parallax = properties.number("parallax", object.parallax);
@@ -124,7 +133,8 @@ Body readBody(const Properties& properties, const ObjectClass& objectClass) {
     }
     body.friction = atLeastNought(properties, "friction", objectClass.friction);
     body.restitution = atLeastNought(properties, "restitution", objectClass.restitution);
-    const bool passable = objectClass.role == sensor || objectClass.role == forcefield;
+    const bool passable =
+        objectClass.role == sensor || objectClass.role == forcefield || objectClass.role == water;
     body.answersContact = properties.flag("collides", !passable);
     body.kind = properties.integer("kind", isPlace(objectClass.role) ? 0 : 1);
     if (body.kind < 0 || body.kind > 4) {

@@ -15,6 +15,7 @@ enum class Role {
     mesh,       ///< Triangles without a body.
     sensor,     ///< A body that feels touches and lets everything through.
     forcefield, ///< The same, pushing what is in it.
+    water,      ///< A box to swim in.
     marker,     ///< A named place.
     light,      ///< A light, on a body or at a place of its own.
     hinge,

@@ -11,7 +11,7 @@ std::span<const Recipe> recipes() {
         {"dust", paintDust},       {"spark", paintSpark},   {"light", paintLight},
         {"white", paintWhite},     {"slider", paintSlider}, {"cursor", paintCursor},
         {"haze", paintHaze},       {"pillar", paintPillar}, {"arch", paintArch},
-        {"cone", paintCone},       {"fire", paintFire},
+        {"cone", paintCone},       {"fire", paintFire},     {"water", paintWater},
     };
     return table;
 }

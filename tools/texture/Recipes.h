@@ -45,6 +45,8 @@ void paintSpark(Canvas& canvas, std::uint32_t seed);
 void paintLight(Canvas& canvas, std::uint32_t seed);
 void paintCone(Canvas& canvas, std::uint32_t seed);
 void paintFire(Canvas& canvas, std::uint32_t seed);
+// water.cpp
+void paintWater(Canvas& canvas, std::uint32_t seed);
 // interface.cpp
 void paintWhite(Canvas& canvas, std::uint32_t seed);
 void paintSlider(Canvas& canvas, std::uint32_t seed);

@@ -15,6 +15,7 @@
 #include "SqueakAdd.h"
 #include "TriggerAdd.h"
 #include "UpCallbackAdd.h"
+#include "WaterAddition.h"
 #include "graphicsModule/LightAdd.h"
 #include "graphicsModule/LightReaderAdd.h"
 #include "graphicsModule/ParticleEmiter.h"
@@ -52,6 +53,7 @@ std::span<const RecordReader> recordReaders() {
         RecordReader{particleEmiter, ParticleEmiter::read},
         record<ForcefieldAdd>(forcefield),
         RecordReader{light, LightAdd::read},
+        record<WaterAddition>(water),
         record<ObscuredAdd>(obscured),
         record<SoundAdd>(sound),
         record<SqueakAdd>(squeak),

@@ -1,0 +1,407 @@
+#include "support/EngineFixture.h"
+
+#include "PhysicsBodies.h"
+#include "graphicsModule/Camera.h"
+#include "graphicsModule/LightAdd.h"
+#include "graphicsModule/Painter.h"
+#include "graphicsModule/WaterGraphics.h"
+#include "physicsModule/PhysicsModule.h"
+#include "sceneManager/So_Addons/WaterAddition.h"
+#include "sceneManager/TestPlayer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr float weight = 640.0F; // of a body of mass 1
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+
+WaterGraphics makeWaves(float right, float top) {
+    return {0, -50, right, top, -1, 0, 1, 1, 1, 1, 1, 1};
+}
+
+float levelAt(const WaterGraphics& water, std::size_t column) {
+    return water.getData().vertices.at(column * 2 + 1);
+}
+
+/// Waters of 400 by 200 units whose level is at 0, and what is put into them.
+class WaterTest : public EngineFixture {
+protected:
+    void prepareDirectory() override {
+        EngineFixture::prepareDirectory();
+        for (const char* name : {"uwater", "breath", "gulp0", "gulp1", "gulp2"}) {
+            directory.write("sound/" + std::string(name) + ".wav", "");
+        }
+        for (int i = 0; i < 6; ++i) {
+            directory.write("sound/plum" + std::to_string(i) + ".wav", "");
+            directory.write("sound/unplum" + std::to_string(i) + ".wav", "");
+        }
+    }
+
+    template <class Graphics>
+    SceneObject* addWater(float x = 0.0F) {
+        PhysicsObject* physics = createBox(x, -100.0F, 200.0F, 100.0F, 0.0F, 0.5F, 0.0F);
+        physics->body->setCollisionFlags(physics->body->getCollisionFlags() |
+                                         btCollisionObject::CF_NO_CONTACT_RESPONSE);
+        auto* graphics = new Graphics(-200, -100, 200, 100, -1, 0, 1, 1, 0.2F, 0.4F, 0.6F, 0.5F);
+        graphics->setPhysicsObject(physics);
+        auto* water = new SceneObject({physics, graphics});
+        water->addAddition(new WaterAddition(0.0F));
+        sceneManager().addSceneObject(water);
+        step(1); // what it holds now is no splash
+        return water;
+    }
+    static WaterGraphics& wavesOf(const SceneObject& water) {
+        return dynamic_cast<WaterGraphics&>(*water.graphicsObject);
+    }
+    static float deepestHit(const SceneObject& water) {
+        return *std::ranges::min_element(wavesOf(water).getSpeeds());
+    }
+    static btRigidBody& bodyOf(const SceneObject& object) { return *object.physicsObject->body; }
+
+    /// A crate that came from elsewhere: what begins in the water does not splash.
+    static SceneObject* addTravelled(float x, float y, float speed, int kind = 1) {
+        PhysicsObject* physics = createBox(x, y, 20.0F, 20.0F, 0.0F, 0.5F, 1.0F);
+        physics->kind = kind;
+        SceneObject* object = addToScene(physics);
+        object->age = 2;
+        place(*object, x, y, speed);
+        return object;
+    }
+    /// Puts it there, upright, with the ears beside it.
+    static void place(const SceneObject& object, float x, float y, float speed = 0.0F) {
+        bodyOf(object).setWorldTransform(btTransform(btMatrix3x3::getIdentity(), {x, y, 0.0F}));
+        bodyOf(object).setLinearVelocity({0.0F, speed, 0.0F});
+        graphicsModule().camera->setView(x, y, 1.0F);
+    }
+    void stepAt(const SceneObject& object, float x, float y, float speed = 0.0F) {
+        place(object, x, y, speed);
+        step(1);
+    }
+    /// What the waters give in a step in which the object stays where it is.
+    static float liftOf(const SceneObject& object, std::initializer_list<SceneObject*> waters) {
+        bodyOf(object).clearForces();
+        for (SceneObject* water : waters) {
+            water->update();
+        }
+        return bodyOf(object).getTotalForce().y();
+    }
+
+    /// What runs, with the digit of a splash as N; then silence.
+    std::string heard() const {
+        std::string text = mixer->running();
+        if (const auto at = text.find("plum"); at != std::string::npos) {
+            text[at + 4] = 'N';
+        }
+        for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+            mixer->endSound(channel);
+        }
+        return text;
+    }
+};
+
+/// The protagonist over a water with waves.
+class SwimTest : public WaterTest {
+protected:
+    void SetUp() override {
+        WaterTest::SetUp();
+        water = addWater<WaterGraphics>();
+        player = new TestPlayer;
+        player->clearAdditions(); // no heartbeat
+        sceneManager().addSceneObject(player);
+        sceneManager().player = player;
+        stay(100.0F, 2);
+        heard();
+    }
+    void stay(float y, int steps) {
+        for (int i = 0; i < steps; ++i) {
+            stepAt(*player, 0.0F, y);
+        }
+    }
+
+    SceneObject* water = nullptr;
+    TestPlayer* player = nullptr;
+};
+
+} // namespace
+
+TEST_F(WaterTest, ColumnsStandTenUnitsApartAndTheLastShortOfTheRight) {
+    const auto columns = [](float left, float right) {
+        const StaticWaterGraphics water(left, 0, right, 50, -1, 0, 1, 1, 1, 1, 1, 1);
+        return water.getData().vertices.size() / 2;
+    };
+    EXPECT_EQ(columns(-100, 100), 20U);
+    EXPECT_EQ(columns(-100, 100.5F), 21U);
+    EXPECT_EQ(columns(5, 5), 0U);
+    EXPECT_EQ(columns(0, 1e9F), 20'000U);
+    EXPECT_EQ(columns(0, notANumber), 0U);
+
+    StaticWaterGraphics water(-30, -40, 30, 60, -1, 0, 1, 1, 1, 1, 1, 1);
+    const std::vector<float> texcoords = water.getData().texcoords;
+    ASSERT_EQ(texcoords.size(), 24U);
+    EXPECT_GT(texcoords[1], texcoords[13]) << "a row for the surface, then one for the bottom";
+    water.regenerateTexcoords();
+    EXPECT_EQ(water.getData().texcoords, texcoords);
+    EXPECT_EQ(water.getLocalBounds().top, 60.0F);
+    EXPECT_EQ(makeWaves(30, 60).getLocalBounds().top, 210.0F) << "room for waves";
+}
+
+TEST_F(WaterTest, TheSurfaceFollowsItsRecurrence) {
+    const double dt = physicsModule().period;
+    const float top = 7.0F;
+    for (const std::size_t n : {3U, 4U, 5U, 12U}) {
+        WaterGraphics water = makeWaves(static_cast<float>(n) * 10.0F, top);
+        std::vector<double> y(n, top);
+        std::vector<double> s(n, 0.0);
+        double disturbance = 0.0;
+        const auto pull = [&](std::size_t i, double mean) {
+            s[i] = (s[i] + mean - y[i]) * 0.991;
+            y[i] += s[i] * dt;
+        };
+        for (int tick = 0; tick < 100; ++tick) {
+            pull(1, (y[2] + y[0] + top) / 3);
+            pull(n - 2, (y[n - 3] + y[n - 1] + top) / 3);
+            for (std::size_t i = 2; i + 2 < n; ++i) {
+                pull(i, (y[i + 2] + y[i - 2] + y[i - 1] + y[i + 1] + top) / 5);
+                disturbance += std::abs(top - y[i]);
+            }
+            disturbance /= static_cast<double>(n);
+            y[0] = y[1];
+            y[n - 1] = y[n - 2];
+            water.updateSurface();
+            for (std::size_t i = 0; i < n; ++i) {
+                ASSERT_NEAR(levelAt(water, i), y[i], 1e-3) << n << " columns, tick " << tick;
+                ASSERT_NEAR(water.getSpeeds()[i], s[i], tick % 30 == 0 ? 40.0 : 1e-3);
+                s[i] = water.getSpeeds()[i]; // every 30th stirs it, wherever that is
+            }
+        }
+        EXPECT_NEAR(water.getDisturbance(), disturbance, 1e-3);
+        EXPECT_EQ(disturbance > 0.0, n > 4);
+        EXPECT_TRUE(water.getDroplets().empty()) << "a ripple is too soft";
+    }
+}
+
+TEST_F(WaterTest, AHitPushesTheColumnsUnderItAndTheirNeighboursAndThrowsDroplets) {
+    WaterGraphics soft = makeWaves(100, 0);
+    soft.splash(50.0F, 20.0F, -16.0F);
+    const float third = -16.0F * 1.25F / 3.0F;
+    const std::vector<float> pushed{0, 0, third, -10, -16, -16, -16, -10, third, 0};
+    EXPECT_EQ(soft.getSpeeds(), pushed);
+    soft.splash(-10.0F, 10.0F, 16.0F); // half over the edge
+    EXPECT_EQ(soft.getSpeeds()[0], 10.0F);
+
+    const auto dropletsOf = [](float force, float width) {
+        WaterGraphics water = makeWaves(100, 0);
+        water.splash(50.0F, width, force);
+        return water.getDroplets().size();
+    };
+    EXPECT_EQ(dropletsOf(19.9F, 20.0F), 0U);
+    EXPECT_EQ(dropletsOf(20.0F, 20.0F), 3U + 2U) << "one along every ten units, one at each edge";
+    EXPECT_EQ(dropletsOf(-250.0F, 20.0F), 3U + 2U * 13U);
+    EXPECT_LE(dropletsOf(1e30F, 1e30F), 20'000U);
+    EXPECT_EQ(dropletsOf(notANumber, 20.0F) + dropletsOf(100.0F, notANumber), 0U);
+
+    WaterGraphics busy = makeWaves(100, 0);
+    busy.splash(50.0F, 100.0F, 3000.0F);
+    busy.updateSurface();
+    ASSERT_GT(busy.getDisturbance(), 10.0F);
+    const std::size_t thrown = busy.getDroplets().size();
+    busy.splash(50.0F, 20.0F, 100.0F);
+    EXPECT_EQ(busy.getDroplets().size(), thrown);
+}
+
+TEST_F(WaterTest, WaterTooNarrowForWavesSaysSoAndStaysStraight) {
+    testing::internal::CaptureStdout();
+    WaterGraphics narrow = makeWaves(20, 30);
+    const std::string said = testing::internal::GetCapturedStdout();
+    EXPECT_NE(said.find("a water narrower than 3 columns has no waves\n"), std::string::npos);
+    narrow.splash(10.0F, 20.0F, 250.0F);
+    narrow.updateSurface();
+    EXPECT_TRUE(narrow.getDroplets().empty());
+    EXPECT_EQ(levelAt(narrow, 1), 30.0F);
+    for (const float right : {0.0F, -50.0F, 5.0F}) {
+        WaterGraphics none = makeWaves(right, 30);
+        none.updateSurface();
+        none.draw();
+    }
+    testing::internal::CaptureStdout();
+    makeWaves(20.5F, 30);
+    EXPECT_EQ(testing::internal::GetCapturedStdout().find("waves"), std::string::npos);
+}
+
+TEST_F(WaterTest, LiftIsTheCoveredShareInStillWaterAndWholeInWaves) {
+    SceneObject* still = addWater<StaticWaterGraphics>();
+    SceneObject* crate = addTravelled(0.0F, -50.0F, 0.0F);
+    const auto liftAt = [&](SceneObject* water, float y) {
+        stepAt(*crate, 0.0F, y);
+        place(*crate, 0.0F, y);
+        return liftOf(*crate, {water});
+    };
+    EXPECT_NEAR(liftAt(still, -50.0F), weight * 0.7F, 0.01F);
+    EXPECT_NEAR(liftAt(still, 10.0F), weight * 0.7F * 0.25F, 1.5F);
+    EXPECT_EQ(bodyOf(*crate).getLinearDamping(), 0.9F);
+    EXPECT_EQ(bodyOf(*crate).getAngularDamping(), 0.9F);
+    crate->physicsObject->waterFactor = 1.0F;
+    EXPECT_NEAR(liftAt(still, -50.0F), weight, 0.01F) << "hovers";
+    sceneManager().removeSceneObject(still);
+    EXPECT_EQ(crate->waterCount, 0);
+    EXPECT_NEAR(liftAt(addWater<WaterGraphics>(), 15.0F), weight, 0.01F) << "whatever its depth";
+}
+
+TEST_F(WaterTest, WhatLiesTiltedAtTheSurfaceOfStillWaterTurnsToLieFlat) {
+    SceneObject* still = addWater<StaticWaterGraphics>();
+    SceneObject* plank = addBox(0.0F, 0.0F, 60.0F, 10.0F, 1.0F);
+    const auto torqueAt = [&](float y, float tilt) {
+        stepAt(*plank, 0.0F, y);
+        bodyOf(*plank).getWorldTransform().setRotation(btQuaternion(btVector3(0, 0, 1), tilt));
+        liftOf(*plank, {still});
+        return bodyOf(*plank).getTotalTorque().z();
+    };
+    EXPECT_LT(torqueAt(0.0F, 0.4F), -100.0F);
+    EXPECT_GT(torqueAt(0.0F, -0.4F), 100.0F);
+    EXPECT_EQ(torqueAt(-100.0F, 0.4F), 0.0F) << "not under it";
+}
+
+TEST_F(WaterTest, WhatFallsInSplashesBySpeed) {
+    SceneObject* water = addWater<WaterGraphics>();
+    addTravelled(0.0F, -20.0F, -500.0F)->age = 0; // made in the water
+    step(1);
+    EXPECT_TRUE(wavesOf(*water).getDroplets().empty());
+    addTravelled(100.0F, 15.0F, -1500.0F);
+    step(1);
+    EXPECT_NEAR(static_cast<float>(wavesOf(*water).getDroplets().size()), 5.0F + 2 * 13.0F, 1.0F);
+    EXPECT_NEAR(deepestHit(*water), -250.0F, 5.0F);
+    EXPECT_TRUE(heard().starts_with("plumN.wav 12")); // 128, less a little way
+
+    water = addWater<WaterGraphics>(1000.0F);
+    addTravelled(1000.0F, 15.0F, -1500.0F, 2); // a rope's end hits softer
+    step(1);
+    EXPECT_NEAR(deepestHit(*water), -41.67F, 1.0F);
+}
+
+TEST_F(WaterTest, WhatLeavesWavesSplashesAndIsDampedAsBefore) {
+    SceneObject* water = addWater<WaterGraphics>();
+    SceneObject* crate = addTravelled(0.0F, -20.0F, 0.0F);
+    step(1);
+    stepAt(*crate, 0.0F, 60.0F, 300.0F);
+    EXPECT_EQ(crate->waterCount, 0);
+    EXPECT_EQ(bodyOf(*crate).getLinearDamping(), 0.0F);
+    EXPECT_EQ(bodyOf(*crate).getAngularDamping(), 0.0F);
+    EXPECT_TRUE(heard().starts_with("unplumN.wav 2")); // 25
+    EXPECT_FALSE(wavesOf(*water).getDroplets().empty());
+
+    addWater<StaticWaterGraphics>(1000.0F); // still water keeps quiet, and its hold on the damping
+    stepAt(*crate, 1000.0F, 0.0F, -300.0F);
+    stepAt(*crate, 1000.0F, 60.0F, 300.0F);
+    EXPECT_EQ(crate->waterCount, 0);
+    EXPECT_EQ(bodyOf(*crate).getLinearDamping(), 0.9F);
+    EXPECT_EQ(heard(), "");
+
+    stepAt(*crate, 0.0F, -20.0F);
+    ASSERT_EQ(crate->waterCount, 1);
+    heard();
+    sceneManager().removeSceneObject(crate);
+    step(1); // what died in the water is not touched, as the address sanitizer sees
+    EXPECT_EQ(heard(), "");
+}
+
+TEST_F(WaterTest, OverlappingWatersActOneAtATime) {
+    SceneObject* first = addWater<WaterGraphics>();
+    SceneObject* second = addWater<WaterGraphics>(300.0F); // together from 100 to 200
+    SceneObject* crate = addTravelled(50.0F, -50.0F, 0.0F);
+    step(1);
+    stepAt(*crate, 150.0F, -50.0F);
+    EXPECT_EQ(crate->waterCount, 2);
+    EXPECT_NEAR(liftOf(*crate, {first, second}), weight * 0.7F, 0.01F);
+    heard();
+    stepAt(*crate, 250.0F, -50.0F, 300.0F); // the first lets go without a sound
+    EXPECT_EQ(crate->waterCount, 1);
+    EXPECT_EQ(heard(), "");
+    EXPECT_EQ(bodyOf(*crate).getLinearDamping(), 0.9F);
+    EXPECT_NEAR(liftOf(*crate, {second}), weight * 0.7F, 0.01F);
+
+    stepAt(*crate, 150.0F, -50.0F);
+    stepAt(*crate, 150.0F, 100.0F, 300.0F); // out of both at once: one splash
+    EXPECT_EQ(crate->waterCount, 0);
+    EXPECT_EQ(std::ranges::count(heard(), 'p'), 1);
+
+    stepAt(*crate, 150.0F, -50.0F);
+    sceneManager().removeSceneObject(first); // takes the count along, and the other goes on
+    EXPECT_EQ(crate->waterCount, 0);
+    step(2);
+    EXPECT_EQ(crate->waterCount, 1);
+    EXPECT_NEAR(liftOf(*crate, {second}), weight * 0.7F, 0.01F);
+    stepAt(*crate, 150.0F, 100.0F);
+    EXPECT_EQ(crate->waterCount, 0);
+}
+
+TEST_F(SwimTest, HeadUnderItHoldsItsBreathAndGulpsAndHeadOutItBreathes) {
+    stay(-50.0F, 400);
+    EXPECT_EQ(player->waterSteps, 400);
+    EXPECT_EQ(heard(), "uwater.wav 64 for ever");
+    stay(-50.0F, 20);
+    EXPECT_NE(heard().find("gulp"), std::string::npos) << "the first, at 420";
+
+    stay(-14.0F, 1); // the crown comes out
+    EXPECT_EQ(heard(), "breath.wav 100") << "and the ears are open";
+    EXPECT_EQ(player->waterCount, 1);
+    stay(-14.0F, 50);
+    EXPECT_EQ(player->waterSteps, 1) << "as the character counts after the water";
+    EXPECT_EQ(heard(), "");
+    stay(-16.0F, 3);
+    EXPECT_EQ(player->waterSteps, 4);
+    EXPECT_EQ(heard(), "uwater.wav 64 for ever");
+
+    sceneManager().removeSceneObject(water); // nobody minds the head in still water
+    heard();
+    addWater<StaticWaterGraphics>();
+    stay(-14.0F, 30);
+    EXPECT_GE(player->waterSteps, 29);
+    EXPECT_EQ(heard(), "uwater.wav 64 for ever");
+}
+
+TEST_F(SwimTest, ItGetsTheLiftOfItsDepthAndLeavesAsFromAJump) {
+    stay(-50.0F, 60);
+    EXPECT_NEAR(liftOf(*player, {water}), weight * 0.9F, 0.01F);
+    stay(0.0F, 1);
+    EXPECT_NEAR(liftOf(*player, {water}), weight * 0.45F, 5.0F);
+    heard();
+    stay(60.0F, 1);
+    EXPECT_EQ(player->waterCount, 0);
+    EXPECT_EQ(bodyOf(*player).getLinearDamping(), 0.5F);
+    EXPECT_EQ(bodyOf(*player).getAngularDamping(), 0.0F);
+    EXPECT_EQ(heard().find("uwater"), std::string::npos);
+    const float before = bodyOf(*player).getLinearVelocity().y();
+    player->jump(); // with nothing underfoot, the key lifts who has just jumped
+    EXPECT_GT(bodyOf(*player).getLinearVelocity().y(), before);
+}
+
+TEST_F(WaterTest, ItDimsALightByHalfWithinItsArea) {
+    SceneObject* water = addWater<WaterGraphics>();
+    GraphicsObject& graphics = *water->graphicsObject;
+    LightProperties bulb;
+    bulb.size = 100.0F;
+    LightAdd light(bulb);
+    light.updateBounds();
+    const auto shadow = [&] {
+        graphics.updateBounds();
+        painter().flush();
+        device->forget();
+        device->keepsDraws = device->keepsVertices = true;
+        graphics.drawShadow(light);
+        painter().flush();
+        return device->draws.empty() ? std::vector<PaintVertex>() : device->draws[0].vertices;
+    };
+    const std::vector<PaintVertex> vertices = shadow();
+    ASSERT_EQ(vertices.size(), 80U);
+    EXPECT_EQ(vertices[0].a, 0.5F);
+    EXPECT_EQ(vertices[0].r + vertices[0].g + vertices[0].b, 0.0F);
+    EXPECT_NEAR(vertices[0].y - vertices[1].y, 200.0F, 0.01F);
+    graphics.setZ(-1.5F);
+    EXPECT_TRUE(shadow().empty());
+    graphics.setZ(0.0F);
+    graphics.setCastsShadow(0);
+    EXPECT_TRUE(shadow().empty());
+}
