@@ -44,6 +44,16 @@ start_display() { # [SCREEN]
     export DISPLAY
 }
 
+# Returns when it works: a window that asks to be shown while it starts may never be.
+start_window_manager() {
+    openbox >/dev/null 2>&1 &
+    for _ in $(seq 100); do
+        xdotool get_num_desktops >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    fail "no window manager"
+}
+
 start_game() {
     cd "$GAME"
     "$BUILT/tolmere" >"$WORK/out" 2>&1 </dev/null &

@@ -3,7 +3,7 @@
 source "$(dirname "$0")/harness.sh"
 
 start_display
-openbox >/dev/null 2>&1 &
+start_window_manager
 start_game
 wait_window
 sleep 3 # the picture fades up from black
