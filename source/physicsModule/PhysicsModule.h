@@ -41,6 +41,9 @@ public:
     /// Removes and deletes the object and the listed joints of its body. Ignores null; an unknown
     /// one gets "niema takiego obiektu PhysicsObject" and stays alive.
     void removePhysicsObject(PhysicsObject* object);
+    /// Takes a listed object's body out of the world and puts it back as it was, so that whom it
+    /// meets is found anew. What it touches in this step is forgotten, on both sides.
+    void renewContacts(const PhysicsObject& object);
 
     /// Takes the joint over; linked bodies do not collide.
     void addConstraint(btTypedConstraint* constraint);

@@ -18,6 +18,7 @@
 #include <BulletCollision/CollisionDispatch/btConvex2dConvex2dAlgorithm.h>
 #include <BulletCollision/CollisionDispatch/btDefaultCollisionConfiguration.h>
 #include <BulletCollision/NarrowPhaseCollision/btMinkowskiPenetrationDepthSolver.h>
+#include <BulletCollision/NarrowPhaseCollision/btPersistentManifold.h>
 #include <BulletDynamics/ConstraintSolver/btGeneric6DofSpringConstraint.h>
 #include <BulletDynamics/ConstraintSolver/btSequentialImpulseConstraintSolver.h>
 
@@ -166,6 +167,21 @@ void PhysicsModule::removePhysicsObject(PhysicsObject* object) {
     world->removeRigidBody(object->body.get());
     physicsObjects.erase(place);
     delete object;
+}
+
+void PhysicsModule::renewContacts(const PhysicsObject& object) {
+    btRigidBody* body = object.body.get();
+    for (PhysicsObject* other : physicsObjects) { // which would keep manifolds that the world frees
+        std::erase_if(other->contacts, [body](const btPersistentManifold* manifold) {
+            return manifold->getBody0() == body || manifold->getBody1() == body;
+        });
+    }
+    const int group = body->getBroadphaseHandle()->m_collisionFilterGroup;
+    const int mask = body->getBroadphaseHandle()->m_collisionFilterMask;
+    const btVector3 gravity = body->getGravity();
+    world->removeRigidBody(body);
+    world->addRigidBody(body, group, mask);
+    body->setGravity(gravity); // some bodies fall their own way
 }
 
 void PhysicsModule::removeJointsOf(btRigidBody& body) {

@@ -15,4 +15,6 @@ void EqItem::select() {
     }
 }
 
-void EqItem::use(float, float, float, float, float) {}
+SceneObject* EqItem::use(float, float, float, float, float) {
+    return nullptr;
+}

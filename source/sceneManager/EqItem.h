@@ -1,6 +1,14 @@
 #pragma once
 
 class Equipment;
+class SceneObject;
+
+/// What `EqItem::getType` says.
+namespace itemType {
+constexpr int weapon = 0;
+constexpr int hands = 2;
+constexpr int evilHands = 3;
+} // namespace itemType
 
 /// Anything that a character can carry. Owned by the `Equipment` that it was added to.
 class EqItem {
@@ -16,9 +24,10 @@ public:
     virtual void secondaryDown() {}
     virtual void primaryUp() {}
     virtual void secondaryUp() {}
-    /// Every step while a button is held: world position, angle from straight up (negative towards
-    /// the right, radians), and a velocity.
-    virtual void use(float x, float y, float angle, float vx, float vy);
+    /// Every step while a button is held: world position of the character, angle of the aim from
+    /// straight up (negative towards the right, radians), and two values for the item's own use.
+    /// Returns what it put into the scene, if anything.
+    virtual SceneObject* use(float x, float y, float angle, float a, float b);
     /// Whether the item ties the character to a loose object that it passes through.
     virtual bool hangsOnLooseObject() const { return false; }
     /// Leaps off what is held; false if nothing is.

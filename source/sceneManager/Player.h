@@ -78,11 +78,11 @@ public:
     PlayerStatistics statistics;
     btVector3 aimPoint;                ///< World point looked at.
     SceneObject* supportNow = nullptr; ///< Under the feet in this step; not owned.
+    std::uint32_t lastJumpStep;        ///< Of the last take-off or stroke, or of the making.
 
 protected:
     bool leftFree = true;
     bool rightFree = true;
-    std::uint32_t lastJumpStep;
     std::uint32_t lastGroundStep = 0;
     SceneObject* supportRecent = nullptr; ///< Last stood on, for a grace time; not owned.
     btVector3 contactOffset{0, 0, 0};     ///< From the support's centre to the contact.

@@ -3,6 +3,7 @@
 #include "graphicsModule/MultiGraphics.h"
 #include "graphicsModule/PhysicsGraphicsObject.h"
 #include "graphicsModule/TextureStore.h"
+#include "physicsModule/CollisionRules.h"
 #include "physicsModule/PhysicsObject.h"
 
 #include <algorithm>
@@ -107,6 +108,7 @@ void ProtagonistParts::take(const ProtagonistPose& pose) {
 
 SceneParts makeProtagonistParts() {
     PhysicsObject* physics = createSphere(startX, startY, bodyRadius, bounce, friction, mass);
+    physics->kind = collisionKind::barrier; // as all, and feels the lianas that others pass through
     auto* group = new MultiGraphics;
     for (const PartLook& look : looks) {
         group->addChild(makePart(look, physics));

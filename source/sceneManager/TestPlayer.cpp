@@ -1,5 +1,7 @@
 #include "TestPlayer.h"
 
+#include "Equipment.h"
+#include "Hands.h"
 #include "ProtagonistParts.h"
 #include "Random.h"
 #include "TextStream.h"
@@ -98,6 +100,9 @@ TestPlayer::TestPlayer(const SceneParts& parts)
     body().setDamping(linearDamping, 0.0F);
     // Contacts rub along x only, so that walls do not hold a jump back.
     body().setAnisotropicFriction({1.0F, 0.0F, 0.0F});
+    auto* hands = new Hands;
+    equipment->add(hands);
+    hands->select();
 }
 
 TestPlayer::~TestPlayer() {

@@ -6,7 +6,8 @@ struct ProtagonistPose;
 
 /// The protagonist: the character that the user steers. What it adds is a body of four parts that a
 /// procedural walk cycle moves, its sounds, drowning, and the fear that the sound manager turns
-/// into breath and heartbeat, fed by the light that falls on it.
+/// into breath and heartbeat, fed by the light that falls on it. It comes with `Hands`, which are
+/// empty.
 class TestPlayer : public Player {
 public:
     /// A new one at (500, 500) that looks left, with parts and a `LightReaderAdd` of its own.

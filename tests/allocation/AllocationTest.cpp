@@ -7,6 +7,8 @@
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/Equipment.h"
+#include "sceneManager/Hands.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
@@ -171,6 +173,35 @@ TEST_F(Allocation, CratesBobInWavesWithoutAllocating) {
     }
     EXPECT_EQ(allocations, 0U);
     EXPECT_EQ(sceneManager().objects.back()->waterCount, 1) << "afloat";
+}
+
+TEST_F(Allocation, ACrateIsCarriedAndSwungWithoutAllocating) {
+    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 400, 5000, 50)));
+    auto* crate = new SceneObject(makeBoxParts(look(2.0F), 535, 470, 20, 20));
+    sceneManager().addSceneObject(crate);
+    auto* player = new TestPlayer;
+    sceneManager().addSceneObject(player);
+    sceneManager().player = player;
+    step(60);
+    auto& hands = static_cast<Hands&>(*player->equipment->current);
+    hands.primaryDown();
+    player->keys = playerKey::primary | playerKey::right;
+    step(30);
+    ASSERT_EQ(hands.heldObject(), crate);
+    const auto swing = [this, player](float x, float y) {
+        for (int i = 0; i < 60; ++i) {
+            player->aimPoint =
+                player->physicsObject->body->getWorldTransform().getOrigin() + btVector3(x, y, 0);
+            step();
+        }
+    };
+    swing(-100.0F, 0.0F);
+    swing(100.0F, 0.0F);
+    allocations = 0;
+    swing(-100.0F, 0.0F);
+    swing(100.0F, 0.0F);
+    EXPECT_EQ(allocations, 0U);
+    EXPECT_EQ(hands.heldObject(), crate);
 }
 
 TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {

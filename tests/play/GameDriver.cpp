@@ -13,6 +13,9 @@
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/Equipment.h"
+#include "sceneManager/Hands.h"
+#include "sceneManager/HandsPause.h"
 #include "sceneManager/MapFile.h"
 #include "sceneManager/Player.h"
 #include "soundModule/SoundManager.h"
@@ -76,6 +79,11 @@ void GameDriver::hold(const std::string& key, bool down) {
     if (key == "mouse" || key == "mouse2") {
         const int button = key == "mouse" ? platform::leftMouseButton : platform::rightMouseButton;
         down ? window.pressMouse(button) : window.releaseMouse(button);
+        if (down) {
+            heldButtons.insert(button);
+        } else {
+            heldButtons.erase(button);
+        }
         return;
     }
     const auto found = keys.find(key);
@@ -92,8 +100,20 @@ void GameDriver::hold(const std::string& key, bool down) {
 
 void GameDriver::aim(float x, float y) {
     aiming = true;
+    aimTarget.clear();
     aimX = x;
     aimY = y;
+}
+
+void GameDriver::aimAt(const std::string& name) {
+    aiming = true;
+    aimTarget = name;
+}
+
+SceneObject* GameDriver::held() const {
+    EqItem* item = player() == nullptr ? nullptr : player()->equipment->current;
+    const bool hands = item != nullptr && item->getType() == itemType::hands;
+    return hands ? static_cast<Hands*>(item)->heldObject() : nullptr;
 }
 
 void GameDriver::pointMouse() {
@@ -102,6 +122,13 @@ void GameDriver::pointMouse() {
     }
     const Camera& camera = *graphicsModule().camera;
     const btVector3 place = placeOf(*player());
+    const SceneObject* target =
+        aimTarget.empty() ? nullptr : sceneManager().getSceneObject(aimTarget);
+    if (target != nullptr) {
+        const btVector3 way = placeOf(*target) - place;
+        aimX = way.x();
+        aimY = way.y();
+    }
     const float zoom = camera.getZoom();
     const float logicalX = (place.x() + aimX - camera.getX()) * zoom + logicalWidth / 2.0F;
     const float logicalY = (place.y() + aimY - camera.getY()) * zoom + logicalHeight / 2.0F;
@@ -112,10 +139,16 @@ void GameDriver::pointMouse() {
 }
 
 void GameDriver::reload() {
-    sceneManager().saveMap("maps/RELOADED.vkl");
+    {
+        const HandsPause pause(player());
+        sceneManager().saveMap("maps/RELOADED.vkl");
+    }
     enterMap("RELOADED.vkl");
     for (const int key : heldKeys) { // a new character knows of no key that was down before it
         window.press(key);
+    }
+    for (const int button : heldButtons) {
+        window.pressMouse(button);
     }
 }
 

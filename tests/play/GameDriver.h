@@ -23,6 +23,10 @@ public:
     void hold(const std::string& key, bool down);
     /// Keeps the mouse at a place in world units from the protagonist, from now on.
     void aim(float x, float y);
+    /// Keeps the mouse on the first object of the name, from now on.
+    void aimAt(const std::string& name);
+    /// What the protagonist has in hand; null for nothing.
+    SceneObject* held() const;
     /// Saves the running scene and goes on from the file.
     void reload();
 
@@ -46,9 +50,11 @@ private:
 
     ScriptedWindow& window;
     std::set<int> heldKeys;
+    std::set<int> heldButtons;
     std::string pictureDirectory; // empty for none
     int pictureSteps = 0;
     bool aiming = false;
+    std::string aimTarget; // name of an object; empty for a place relative to the protagonist
     float aimX = 0.0F;
     float aimY = 0.0F;
 };

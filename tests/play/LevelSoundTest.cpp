@@ -24,23 +24,21 @@ struct HeardAt {
 };
 
 constexpr std::array chapter1{
-    HeardAt{"thud.wav", 1040, 1060, 40},      // the protagonist falls into the cell
     HeardAt{"minibell.wav", 1040, 1060, 120}, // a tip
     HeardAt{"foot1.wav", 1160, 1200, 40},     // lands from a leap
-    HeardAt{"thud.wav", 1300, 1320, 80},      // behind the barrel
     HeardAt{"minibell.wav", 1430, 1460, 120},
     HeardAt{"squeak2.wav", 1530, 1570, 60}, // the hanging door, pushed
     HeardAt{"squeak1.wav", 1590, 1640, 35}, // and back
     HeardAt{"squeak2.wav", 2300, 2380, 5},  // still, far behind
     HeardAt{"foot0.wav", 2950, 2980, 30},
-    HeardAt{"thud.wav", 3280, 3320, 60}, // a crate in the hall
+    HeardAt{"thud.wav", 3690, 3730, 60}, // a crate in the hall
     HeardAt{"minibell.wav", 4060, 4090, 120},
     HeardAt{"hum.wav", 4260, 4290, 75},       // the lift is here
     HeardAt{"waterfall.wav", 5340, 5390, 10}, // behind the wall
     HeardAt{"switch.wav", 7780, 7850, 60},    // the crate is on the plate
     HeardAt{"grind.wav", 7800, 7880, 15},     // the door goes up
     HeardAt{"minibell.wav", 7800, 7860, 40},  // and rings the bell
-    HeardAt{"foot0.wav", 8860, 8900, 12},     // a step
+    HeardAt{"foot0.wav", 8830, 8870, 12},     // a step
     HeardAt{"minibell.wav", 8970, 9020, 90},
 };
 

@@ -36,15 +36,15 @@ std::unique_ptr<PaintDevice> PlayFixture::makeDevice() {
     return std::make_unique<GlDevice>();
 }
 
-std::size_t PlayFixture::play(const std::string& chapter, const char* picture,
-                              std::function<void(const GameDriver&)> afterStep) {
+std::size_t PlayFixture::follow(const std::string& path, const char* picture,
+                                std::function<void(const GameDriver&)> afterStep) {
     GameDriver game(*window);
     game.afterStep = std::move(afterStep);
     if (pictures != nullptr) {
         game.keepPictures(pictures, 60);
     }
     try {
-        const Walkthrough walkthrough(pathOf(chapter));
+        const Walkthrough walkthrough(path);
         walkthrough.play(game);
     } catch (const std::string& reason) {
         game.screenshot(startDirectory + "/" + picture);

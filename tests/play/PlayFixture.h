@@ -23,8 +23,13 @@ protected:
 
     /// Plays a walkthrough, and tells of every step if asked to; a failure names the place and
     /// leaves a picture of it. Returns the hash of the scene at the end.
+    std::size_t follow(const std::string& path, const char* picture,
+                       std::function<void(const GameDriver&)> afterStep = nullptr);
+    /// The same for the walkthrough of a chapter.
     std::size_t play(const std::string& chapter, const char* picture,
-                     std::function<void(const GameDriver&)> afterStep = nullptr);
+                     std::function<void(const GameDriver&)> afterStep = nullptr) {
+        return follow(pathOf(chapter), picture, std::move(afterStep));
+    }
 
     const char* pictures = std::getenv("TOLMERE_PICTURES");
 };

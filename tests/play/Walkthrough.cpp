@@ -55,6 +55,9 @@ Condition parseCondition(const Words& words, std::size_t at, int& limit) {
     } else if (rest.size() == 2 && rest[0] == "on") {
         condition.kind = Condition::Kind::on;
         condition.name = rest[1];
+    } else if (rest.size() == 2 && rest[0] == "holding") {
+        condition.kind = Condition::Kind::holding;
+        condition.name = rest[1];
     } else if (rest.size() == 2 && rest[1] == "gone") {
         condition.kind = Condition::Kind::gone;
         condition.name = rest[0];
@@ -84,6 +87,44 @@ void parseDuration(const Words& words, std::size_t at, Direction& direction) {
     }
 }
 
+/// "X Y" or "at NAME" from place 1 on.
+void parseAim(const Words& words, Direction& direction) {
+    if (words.at(1) == "at") {
+        direction.name = words.at(2);
+    } else {
+        direction.x = static_cast<float>(number(words.at(1)));
+        direction.y = static_cast<float>(number(words.at(2)));
+    }
+}
+
+/// What is done with the hands. False for any other verb.
+bool parseHands(const Words& words, Direction& direction) {
+    const std::string& verb = words[0];
+    if (verb == "aim" || verb == "throw") {
+        direction.verb = verb == "aim" ? Direction::Verb::aim : Direction::Verb::toss;
+        parseAim(words, direction);
+    } else if (verb == "grab") {
+        direction.verb = Direction::Verb::grab;
+        const bool named = words.size() == 2 || words.size() == 4;
+        direction.name = named ? words[1] : "";
+        if (words.size() > 2) {
+            direction.limit = number(words.back());
+        }
+    } else if (verb == "drop") {
+        direction.verb = Direction::Verb::drop;
+    } else if (verb == "climb") {
+        direction.verb = Direction::Verb::climb;
+        direction.name = words.at(1);
+        parseDuration(words, 2, direction);
+        if (!direction.untilCondition) {
+            throw std::invalid_argument(verb);
+        }
+    } else {
+        return false;
+    }
+    return true;
+}
+
 Direction parseDirection(const std::string& text, int line) {
     const Words words = splitWords(text);
     Direction direction;
@@ -104,19 +145,27 @@ Direction parseDirection(const std::string& text, int line) {
     } else if (verb == "wait") {
         direction.verb = Direction::Verb::wait;
         parseDuration(words, 1, direction);
-    } else if (verb == "aim") {
-        direction.verb = Direction::Verb::aim;
-        direction.x = static_cast<float>(number(words.at(1)));
-        direction.y = static_cast<float>(number(words.at(2)));
     } else if (verb == "expect") {
         direction.verb = Direction::Verb::expect;
         direction.condition = parseCondition(words, 1, direction.limit);
     } else if (verb == "reload") {
         direction.verb = Direction::Verb::reload;
-    } else {
+    } else if (!parseHands(words, direction)) {
         throw std::invalid_argument(verb);
     }
     return direction;
+}
+
+/// Steps until the condition holds.
+/// @throws std::string if it does not within the direction's limit
+template <class Test, class Step>
+void stepUntil(const Test& holds, const Direction& direction, const Step& step) {
+    for (int steps = 0; !holds(); ++steps) {
+        if (steps == direction.limit) {
+            throw "not so after " + std::to_string(direction.limit) + " steps";
+        }
+        step();
+    }
 }
 
 bool hasName(const SceneObject& object, const std::string& name) {
@@ -133,6 +182,67 @@ bool isFaded(const SceneObject* object) {
         object->graphicsObject->getColour(ignored, ignored, ignored, alpha);
     }
     return alpha <= 0.0F;
+}
+
+void aim(const Direction& direction, GameDriver& game) {
+    if (direction.name.empty()) {
+        game.aim(direction.x, direction.y);
+    } else {
+        game.aimAt(direction.name);
+    }
+}
+
+void toss(const Direction& direction, GameDriver& game) {
+    constexpr int followSteps = 30; // in which what is held swings to where the aim wants it
+    if (game.held() == nullptr) {
+        throw std::string("nothing is in hand");
+    }
+    aim(direction, game);
+    for (int i = 0; i < followSteps; ++i) {
+        game.step();
+    }
+    game.hold("mouse2", true);
+    game.step();
+    game.hold("mouse2", false);
+    if (game.held() != nullptr) {
+        throw std::string("it is still in hand");
+    }
+    game.hold("mouse", false);
+    game.step();
+}
+
+/// From the character to the nearest part of the liana.
+btVector3 wayTo(const std::string& liana, const btVector3& from) {
+    btVector3 nearest(BT_LARGE_FLOAT, 0.0F, 0.0F);
+    for (const SceneObject* object : sceneManager().objects) {
+        const btVector3 way = GameDriver::placeOf(*object) - from;
+        if (way.length2() < nearest.length2() && hasName(*object, liana)) {
+            nearest = way;
+        }
+    }
+    return nearest;
+}
+
+/// Leaps on as soon as the hands have found the liana again, and keeps touching it without a push
+/// that would set it swinging.
+void climb(const Direction& direction, GameDriver& game) {
+    constexpr float touch = 18.0F; // from the middle of the character to that of a liana
+    constexpr float near = 60.0F;  // where the hands reach out; other things may lie about
+    const auto arrived = [&] { return game.held() != nullptr && direction.condition.holds(game); };
+    game.hold("up", true);
+    stepUntil(arrived, direction, [&] {
+        if (game.player() == nullptr) {
+            throw std::string("nobody climbs");
+        }
+        const btVector3 way = wayTo(direction.name, GameDriver::placeOf(*game.player()));
+        game.hold("mouse", way.length() < near);
+        game.hold("left", way.x() < -touch);
+        game.hold("right", way.x() > touch);
+        game.step();
+    });
+    for (const char* key : {"up", "left", "right"}) {
+        game.hold(key, false);
+    }
 }
 
 } // namespace
@@ -154,6 +264,8 @@ bool Condition::holds(const GameDriver& game) const {
         return isFaded(sceneManager().getSceneObject(name));
     case Kind::touching:
         return player->touchesObject(name);
+    case Kind::holding:
+        return game.held() != nullptr && hasName(*game.held(), name);
     case Kind::on:
         return player->supportNow != nullptr && hasName(*player->supportNow, name);
     default:
@@ -208,7 +320,11 @@ void Walkthrough::follow(const Direction& direction, GameDriver& game) const {
         game.hold(direction.key, false);
         return;
     case Direction::Verb::aim:
-        game.aim(direction.x, direction.y);
+    case Direction::Verb::grab:
+    case Direction::Verb::drop:
+    case Direction::Verb::toss:
+    case Direction::Verb::climb:
+        followHands(direction, game);
         return;
     case Direction::Verb::reload:
         game.reload();
@@ -226,13 +342,8 @@ void Walkthrough::follow(const Direction& direction, GameDriver& game) const {
         game.hold(direction.key, true);
     }
     if (direction.untilCondition) {
-        int steps = 0;
-        while (!direction.condition.holds(game)) {
-            if (++steps > direction.limit) {
-                throw "not so after " + std::to_string(direction.limit) + " steps";
-            }
-            game.step();
-        }
+        stepUntil([&] { return direction.condition.holds(game); }, direction,
+                  [&game] { game.step(); });
     } else {
         for (int i = 0; i < direction.steps; ++i) {
             game.step();
@@ -240,5 +351,31 @@ void Walkthrough::follow(const Direction& direction, GameDriver& game) const {
     }
     if (!direction.key.empty()) {
         game.hold(direction.key, false);
+    }
+}
+
+void Walkthrough::followHands(const Direction& direction, GameDriver& game) {
+    switch (direction.verb) {
+    case Direction::Verb::grab:
+        game.hold("mouse", true);
+        stepUntil(
+            [&] {
+                return game.held() != nullptr &&
+                       (direction.name.empty() || hasName(*game.held(), direction.name));
+            },
+            direction, [&game] { game.step(); });
+        return;
+    case Direction::Verb::drop:
+        game.hold("mouse", false);
+        game.step();
+        return;
+    case Direction::Verb::toss:
+        toss(direction, game);
+        return;
+    case Direction::Verb::climb:
+        climb(direction, game);
+        return;
+    default:
+        aim(direction, game);
     }
 }

@@ -8,7 +8,7 @@ class GameDriver;
 
 /// A question about the running game that a direction waits for or expects.
 struct Condition {
-    enum class Kind { coordinate, touching, standing, speaking, on, gone, faded };
+    enum class Kind { coordinate, touching, standing, speaking, on, gone, faded, holding };
 
     Kind kind = Kind::standing;
     std::string name; ///< Object asked about; empty means the protagonist.
@@ -21,7 +21,9 @@ struct Condition {
 
 /// One line of a walkthrough.
 struct Direction {
-    enum class Verb { hold, release, walk, jump, wait, aim, expect, reload };
+    // clang-format off
+    enum class Verb { hold, release, walk, jump, wait, aim, expect, reload, grab, drop, toss, climb };
+    // clang-format on
 
     int line = 0;
     std::string text; ///< As it stands, for messages.
@@ -32,6 +34,7 @@ struct Direction {
     Condition condition;
     int limit = 900;          ///< Steps until an unmet condition fails.
     float x = 0.0F, y = 0.0F; ///< Of an aim: world units from the protagonist.
+    std::string name;         ///< Of an object that is aimed at, grabbed or climbed; may be empty.
 };
 
 /// Directions that play a level as a user would, by keys, mouse and time. One a line:
@@ -40,13 +43,18 @@ struct Direction {
 ///     walk left|right N | until CONDITION     holds the key meanwhile
 ///     jump N                                  holds up for N steps
 ///     wait N | until CONDITION
-///     aim X Y                                 mouse, in world units from the character
+///     aim X Y | aim at NAME                   mouse, in world units from the character
 ///     expect CONDITION
 ///     reload                                  saves the scene and loads it again
+///     grab [NAME]                             holds mouse until that, or anything, is in hand
+///     drop                                    lets go of it
+///     throw X Y | throw at NAME               aims, waits for what is held to follow, and throws
+///     it climb NAME until CONDITION              hand over hand up a liana, and hangs on at the
+///     end
 ///
-/// CONDITION is "[NAME] x|y above|below V", "touching NAME", "on NAME", "NAME gone", "NAME faded"
-/// (nothing is seen of it any more), "standing" or "speaking". A condition may be followed by
-/// "within N" steps. Empty lines and those that begin with # are notes.
+/// CONDITION is "[NAME] x|y above|below V", "touching NAME", "on NAME", "holding NAME", "NAME
+/// gone", "NAME faded" (nothing is seen of it any more), "standing" or "speaking". A condition may
+/// be followed by "within N" steps. Empty lines and those that begin with # are notes.
 class Walkthrough {
 public:
     /// @throws std::string with file and line if a direction is not understood
@@ -59,6 +67,7 @@ public:
     const std::vector<Direction>& getDirections() const { return directions; }
     /// Plays one direction.
     void follow(const Direction& direction, GameDriver& game) const;
+    static void followHands(const Direction& direction, GameDriver& game);
 
 private:
     std::string path;

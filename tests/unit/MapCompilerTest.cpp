@@ -456,6 +456,57 @@ TEST_F(MapCompilerTest, ADumpHasALineForEachRecordAndRefusesATornFile) {
     }
 }
 
+TEST_F(MapCompilerTest, ARopeHangsInLinksFromTheBodyThatItBeginsIn) {
+    const std::string ceiling = R"({"id":1,"type":"Wall","x":0,"y":0,"width":200,"height":40},)";
+    const SceneBundle free = load(mapOf(
+        ceiling +
+        R"({"id":2,"name":"LIA","type":"Rope","x":100,"y":10,"polyline":[{"x":0,"y":0},{"x":0,"y":60},{"x":60,"y":60}])" +
+        with({{"linkLength", 30}, {"script", "TRIGGER KNOWN"}}) + "}"));
+    // The ceiling, the start, and three links for the length that hangs out of the ceiling.
+    ASSERT_EQ(free.objects.size(), 5U);
+    ASSERT_EQ(free.joints.size(), 3U);
+    const std::size_t chain[] = {0, 2, 3, 4};
+    for (std::size_t i = 1; i < 4; ++i) {
+        const SceneObject& link = *free.objects[chain[i]];
+        EXPECT_TRUE(link.hasName("LIA"));
+        EXPECT_EQ(link.physicsObject->kind, 2);
+        EXPECT_EQ(link.additions.size(), i == 1 ? 2U : 1U) << "one script a rope";
+        auto& hinge = dynamic_cast<btHingeConstraint&>(*free.joints[i - 1]);
+        const btRigidBody& below = bodyOf(free, chain[i]);
+        const btRigidBody& above = bodyOf(free, chain[i - 1]);
+        EXPECT_EQ(&hinge.getRigidBodyA(), &below);
+        EXPECT_EQ(&hinge.getRigidBodyB(), &above);
+        const btVector3 a = below.getWorldTransform() * hinge.getAFrame().getOrigin();
+        const btVector3 b = above.getWorldTransform() * hinge.getBFrame().getOrigin();
+        EXPECT_NEAR(a.distance(b), 0.0F, 0.01F);
+    }
+    EXPECT_NEAR(bodyOf(free, 2).getWorldTransform().getOrigin().y(), 45.0F, 1.0F);
+    EXPECT_NEAR(turnOf(bodyOf(free, 4)), SIMD_HALF_PI, 0.1F) << "lies to the right";
+
+    const SceneBundle loaded =
+        load(mapOf(ceiling + R"({"id":3,"type":"Crate","x":90,"y":90,"width":20,"height":20},)"
+                             R"({"id":2,"type":"Rope","x":96,"y":30,"width":8,"height":70},)"
+                             R"({"id":4,"type":"Rope","x":-300,"y":-90,"width":8,"height":70})"));
+    std::vector<const btRigidBody*> tied;
+    for (const btTypedConstraint* joint : loaded.joints) {
+        tied.push_back(&joint->getRigidBodyA());
+        tied.push_back(&joint->getRigidBodyB());
+    }
+    EXPECT_THAT(tied, testing::Contains(&bodyOf(loaded, 1))) << "the crate hangs on it";
+    EXPECT_THAT(tied, testing::Contains(&btTypedConstraint::getFixedBody())) << "from mid air";
+
+    EXPECT_THAT(complaintOf(R"({"id":1,"type":"Rope","x":0,"y":0,"ellipse":true,"width":9})"),
+                HasSubstr("a line or a rectangle"));
+    EXPECT_THAT(complaintOf(R"({"id":1,"type":"Rope","x":0,"y":0,"polyline":[{"x":0,"y":0}])"
+                            "}"),
+                HasSubstr("no length"));
+    EXPECT_THAT(
+        complaintOf(ceiling + R"({"id":2,"type":"Rope","x":50,"y":5,"width":5,"height":20})"),
+        HasSubstr("lies in object 1 altogether"));
+    EXPECT_THAT(complaintOf(R"({"id":1,"type":"Rope","x":0,"y":0,"width":5,"height":90000})"),
+                HasSubstr("too long"));
+}
+
 TEST_F(MapCompilerTest, TheEditorOffersEveryClassWithTheValuesItHas) {
     const auto project = nlohmann::json::parse(readFile(TOLMERE_CONTENT "/tolmere.tiled-project"));
     for (const mapc::ObjectClass& row : mapc::objectClasses()) {

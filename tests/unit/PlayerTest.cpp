@@ -18,7 +18,6 @@ constexpr float stepSeconds = 1.0F / 60.0F;
 class Tool : public EqItem {
 public:
     int getType() const override { return 9; }
-    void use(float, float, float, float, float) override {}
     bool hangsOnLooseObject() const override { return true; }
 };
 

@@ -4,6 +4,7 @@
 #include "LightRecord.h"
 #include "ObjectAdditions.h"
 #include "ObjectClass.h"
+#include "RopeBuilder.h"
 #include "ShapeBuilder.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ std::string groupOf(const TiledObject& object) {
 
 /// Whether the object only adds to others, which must all be built before.
 bool isAttached(const TiledObject& object, Role role) {
-    return role == Role::hinge || role == Role::slider ||
+    return role == Role::rope || role == Role::hinge || role == Role::slider ||
            (role == Role::light &&
             (object.properties.integer(bearerProperty, 0) != 0 || !groupOf(object).empty()));
 }
@@ -59,6 +60,11 @@ public:
             }
         });
         std::ranges::for_each(level.objects, centreCompound);
+        forEach([this](const TiledObject& object, const ObjectClass& objectClass) {
+            if (objectClass.role == Role::rope) {
+                addRope(object, objectClass, placement, level);
+            }
+        });
         JointBuilder joints(level, partOwners, placement);
         forEach([&](const TiledObject& object, const ObjectClass& objectClass) {
             if (objectClass.role == Role::hinge) {

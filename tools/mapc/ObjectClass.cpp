@@ -24,12 +24,13 @@ constexpr auto classTable = std::to_array<ObjectClass>({
     {"Water", water, "water.tga", -0.2F, mixed, 0.0F, 0.5F, 0.0F},
     {"Marker", marker, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Light", light, "light1.tga", 0.0F, bounds, 0.0F, 0.5F, 0.0F},
+    {"Rope", rope, "liana.tga", -0.35F, bounds, 2.0F, 0.0F, 0.0F},
     {"Hinge", hinge, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
     {"Slider", slider, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
 });
 
 bool isSeen(Role role) {
-    return role == scenery || role == still || role == loose || role == mesh;
+    return role == scenery || role == still || role == loose || role == mesh || role == rope;
 }
 
 /// What is drawn to be touched keeps light off; areas that are only felt do not.
@@ -123,7 +124,7 @@ Appearance readAppearance(const TiledObject& object, const ObjectClass& objectCl
 
 Body readBody(const Properties& properties, const ObjectClass& objectClass) {
     Body body;
-    if (objectClass.role == loose) {
+    if (objectClass.role == loose || objectClass.role == rope) {
         body.mass = atLeastNought(properties, "mass", objectClass.mass);
         if (body.mass == 0.0F) {
             throw std::string("a loose body needs a mass above 0");

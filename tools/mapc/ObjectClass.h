@@ -18,6 +18,7 @@ enum class Role {
     water,      ///< A box to swim in.
     marker,     ///< A named place.
     light,      ///< A light, on a body or at a place of its own.
+    rope,       ///< A chain of loose bodies.
     hinge,
     slider,
 };

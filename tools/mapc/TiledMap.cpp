@@ -89,8 +89,10 @@ TiledShape shapeOf(const json& object) {
     if (object.contains("polygon")) {
         return TiledShape::polygon;
     }
-    if (object.contains("polyline") || object.contains("text") || object.contains("gid") ||
-        object.contains("template")) {
+    if (object.contains("polyline")) {
+        return TiledShape::polyline;
+    }
+    if (object.contains("text") || object.contains("gid") || object.contains("template")) {
         return TiledShape::other;
     }
     if (member(object, "point") == true) {
@@ -141,7 +143,8 @@ TiledObject readObject(const json& source, const LayerContext& layer) {
     object.width = number(source, "width", 0.0F);
     object.height = number(source, "height", 0.0F);
     object.rotation = number(source, "rotation", 0.0F);
-    for (const json& point : list(source, "polygon")) {
+    const char* corners = object.shape == TiledShape::polyline ? "polyline" : "polygon";
+    for (const json& point : list(source, corners)) {
         object.polygon.push_back({number(point, "x", 0.0F), number(point, "y", 0.0F)});
     }
     object.parallax = layer.parallaxX;

@@ -45,7 +45,7 @@ private:
     std::map<std::string, Value> values;
 };
 
-enum class TiledShape { rectangle, ellipse, point, polygon, other };
+enum class TiledShape { rectangle, ellipse, point, polygon, polyline, other };
 
 /// An object of the editor with all that its layers add to it. Lengths are pixels with y down,
 /// angles degrees clockwise, as in Tiled.
@@ -58,7 +58,7 @@ struct TiledObject {
     float width = 0.0F;
     float height = 0.0F;
     float rotation = 0.0F;    ///< About `position`.
-    Outline polygon;          ///< Relative to `position`, not yet rotated.
+    Outline polygon;          ///< Or line. Relative to `position`, not yet rotated.
     float parallax = 1.0F;    ///< Product of the layers' factors.
     float opacity = 1.0F;     ///< Product of the layers' opacities.
     bool evenParallax = true; ///< The factors of x and y agree.

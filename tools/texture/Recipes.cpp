@@ -12,6 +12,7 @@ std::span<const Recipe> recipes() {
         {"white", paintWhite},     {"slider", paintSlider}, {"cursor", paintCursor},
         {"haze", paintHaze},       {"pillar", paintPillar}, {"arch", paintArch},
         {"cone", paintCone},       {"fire", paintFire},     {"water", paintWater},
+        {"liana", paintLiana},
     };
     return table;
 }

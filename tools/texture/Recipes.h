@@ -23,6 +23,7 @@ void paintDirt(Canvas& canvas, std::uint32_t seed);
 // plants.cpp
 void paintMoss(Canvas& canvas, std::uint32_t seed);
 void paintRoots(Canvas& canvas, std::uint32_t seed);
+void paintLiana(Canvas& canvas, std::uint32_t seed);
 // wood.cpp
 void paintPlank(Canvas& canvas, std::uint32_t seed);
 void paintCrate(Canvas& canvas, std::uint32_t seed);

@@ -1,4 +1,4 @@
-// What grows in the dark: moss in cushions and roots that hold the earth together.
+// What grows in the dark: moss in cushions, roots that hold the earth together, and lianas.
 
 #include "Noise.h"
 #include "Recipes.h"
@@ -123,5 +123,38 @@ void paintRoots(Canvas& canvas, std::uint32_t seed) {
         int x = static_cast<int>(u * size),
             y = static_cast<int>(v * static_cast<float>(canvas.height()));
         return colours.at(x, y);
+    });
+}
+
+// Three strands wound about each other, a link of a rope. Its upper and lower edges meet, so that
+// links make one liana, and its sides are ragged.
+void paintLiana(Canvas& canvas, std::uint32_t seed) {
+    Noise noise(seed), fine(seed + 100);
+    struct Strand {
+        float height, across, tone; // 0 to 1; -1 to 1 inside the strand; 0 to 1
+    };
+    auto strandAt = [&](float u, float v) {
+        float x = 2.2f * (u - 0.5f) + 0.08f * noise.gradient(u, v, {3, 5});
+        Strand top{0, 2, 0};
+        for (int i = 0; i < 3; ++i) {
+            float turn = tau * (v + static_cast<float>(i) / 3);
+            float across = (x - 0.48f * std::sin(turn)) / 0.46f;
+            float height = std::sqrt(std::max(0.0f, 1 - across * across)) + 0.8f * std::cos(turn);
+            if (std::abs(across) < 1 && (top.across > 1 || height > top.height)) {
+                top = {height, across, noise.at(i, 7)};
+            }
+        }
+        return top;
+    };
+    Relief relief(canvas.width(), canvas.height(), [&](float u, float v) {
+        Strand strand = strandAt(u, v);
+        return strand.across > 1 ? 0.0f : 7 + 5 * strand.height + 1.4f * fine.value(u, v, {24, 6});
+    });
+    relief.paint(canvas, [&](float u, float v) {
+        Strand strand = strandAt(u, v);
+        float moss = ramp(0.45f, 0.65f, noise.clouds(u, v, {3, 6}, 3));
+        Colour skin = mix(bark * mix(1.1f, 1.5f, strand.tone), mossBright * 1.3f, 0.7f * moss);
+        skin = skin * mix(0.7f, 1.2f, fine.value(u, v, {24, 6}));
+        return skin.fade(ramp(1.02f, 0.85f, std::abs(strand.across)));
     });
 }
