@@ -134,6 +134,15 @@ TEST_F(ChainRun, AKeyCutsAWaitOnItsReleaseAndNotTheNextWait) {
     EXPECT_EQ(stepsOf("B"), Steps{108}); // started in 9
 }
 
+TEST_F(ChainRun, AKeyThatIsDownWhenAWaitStartsCutsItOnItsRelease) {
+    hold(platform::keySpace);
+    run("LOCK DELAYORKEY 100 A", 5);
+    EXPECT_EQ(order(), "");
+    release(platform::keySpace);
+    step(3);
+    EXPECT_EQ(stepsOf("A"), Steps{6});
+}
+
 TEST_F(ChainRun, AWaitThatWasCutCannotStartAgainAndOneThatRanOutCan) {
     run("LOCK DELAYORKEY 20 A UNLOCK", 45);
     EXPECT_EQ(stepsOf("A"), (Steps{20, 39}));

@@ -2,7 +2,9 @@
 
 #include "PhysicsBodies.h"
 #include "graphicsModule/Camera.h"
+#include "inputModule/InputFrame.h"
 #include "inputModule/InputModule.h"
+#include "inputModule/InputObject.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
@@ -138,11 +140,20 @@ TEST_F(SoundKeywords, ATipRingsUnlessItIsEmptyOrTheScreenIsWhite) {
     mixer->endSound(0);
     step(5);
     EXPECT_EQ(running(), "") << "no line of that number";
+    EXPECT_TRUE(inputModule().getFrames().empty()) << "and the old one goes";
 
     graphicsModule().screenFadeTarget = {1.0F, 1.0F, 1.0F, 1.0F};
     physicsModule().addScript(parseScript("LOCK TIP 5"));
     step();
     EXPECT_EQ(running(), "");
+    ASSERT_EQ(inputModule().getFrames().size(), 1U);
+    const InputFrame& tip = *inputModule().getFrames().front();
+    EXPECT_NEAR(tip.graphics->getTop(), 400.0F, 0.1F) << "half way down";
+    EXPECT_EQ(alphaOf(*tip.graphics), 0.0F);
+    float red = 1.0F;
+    float ignored = 0.0F;
+    tip.getChildren().front()->graphics->getColour(red, ignored, ignored, ignored);
+    EXPECT_EQ(red, 0.0F) << "dark on the white";
 }
 
 } // namespace

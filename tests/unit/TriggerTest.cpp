@@ -62,6 +62,21 @@ TEST_F(Contact, WhatCannotMoveOrDoesNotCollideFiresNoTrigger) {
     EXPECT_EQ(runs, 0);
 }
 
+TEST_F(Contact, APlatformThatCodeMovesFiresATrigger) {
+    SceneObject* plate = addBall(0.0F, 20.0F, 1.0F);
+    plate->addAddition(parseScript("TRIGGER A"));
+    SceneObject* platform = addBall(200.0F, 20.0F, 1.0F);
+    body(platform).setCollisionFlags(body(platform).getCollisionFlags() |
+                                     btCollisionObject::CF_KINEMATIC_OBJECT);
+    step(30);
+    EXPECT_EQ(runs, 0);
+    btTransform near = body(platform).getWorldTransform();
+    near.setOrigin({19.0F, 20.0F, 0.0F});
+    body(platform).getMotionState()->setWorldTransform(near); // where such a body is moved from
+    step(2);
+    EXPECT_EQ(runs, 1);
+}
+
 TEST_F(Contact, ATriggerForTheProtagonistTakesNobodyElse) {
     floor->addAddition(parseScript("TRIGGER -P A"));
     addBall(-30.0F, 20.0F, 1.0F);
