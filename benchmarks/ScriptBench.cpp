@@ -76,7 +76,7 @@ void chainsOnObjects(benchmark::State& state) {
         clocks.push_back(i % 2 == 0 ? std::make_unique<Clock>() : std::make_unique<LateClock>());
     }
     compareBeyond(
-        state, 500, 3.0, [&](bool chained) { machines.putChains(chained); },
+        state, 3000, 3.0, [&](bool chained) { machines.putChains(chained); },
         [] { physicsModule().update(); },
         [&clocks] {
             for (const auto& clock : clocks) {
