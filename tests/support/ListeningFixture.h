@@ -47,7 +47,7 @@ protected:
         }
     }
 
-    /// Steps that have been heard; what is asked for now is heard from this step on.
+    /// Steps that have been heard; a sound that starts next is heard from this step on.
     int now() const { return heard().steps(); }
     const Recording& heard() const { return listener->heard(); }
 
