@@ -6,7 +6,8 @@
 #include <stdexcept>
 
 TempDirectory::TempDirectory() {
-    directory = (std::filesystem::temp_directory_path() / "tolmere-XXXXXX").string();
+    const std::string replaced(6, 'X'); // by what makes the name new
+    directory = (std::filesystem::temp_directory_path() / ("tolmere-" + replaced)).string();
     if (mkdtemp(directory.data()) == nullptr) {
         throw std::runtime_error("no temporary directory " + directory);
     }

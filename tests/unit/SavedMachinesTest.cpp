@@ -1,26 +1,13 @@
-#include "support/EngineFixture.h"
+#include "FloorFixture.h"
 
-#include "PhysicsBodies.h"
 #include "TextStream.h"
-#include "physicsModule/PhysicsModule.h"
 #include "sceneManager/MapFile.h"
-#include "sceneManager/So_Addons/CallbackAdd.h"
 
 namespace {
 
 /// A saved game brings back what runs, in the state in which it stood.
-class SavedMachines : public EngineFixture {
+class SavedMachines : public FloorFixture {
 protected:
-    void SetUp() override {
-        EngineFixture::SetUp();
-        addCallback("A", [this](SceneObject*, So_Addition*) { ++runs; });
-        floor = addBox(0.0F, 0.0F, 50.0F, 10.0F, 0.0F);
-    }
-    void TearDown() override {
-        callbackTable().erase("A");
-        EngineFixture::TearDown();
-    }
-
     static std::string save() {
         TextWriter writer;
         writeScene(writer);
@@ -37,9 +24,6 @@ protected:
         floor = sceneManager().objects.at(0);
         runs = 0;
     }
-
-    SceneObject* floor = nullptr;
-    int runs = 0;
 };
 
 TEST_F(SavedMachines, AClockGoesOnWhereItStood) {

@@ -1,26 +1,11 @@
-#include "support/EngineFixture.h"
+#include "FloorFixture.h"
 
-#include "PhysicsBodies.h"
-#include "sceneManager/So_Addons/CallbackAdd.h"
 #include "sceneManager/So_Addons/HealthAdd.h"
 
 namespace {
 
-/// A static floor from -50 to 50 with its top at 10, which carries the scripts, and things that are
-/// put on it. The command A counts its runs.
-class Contact : public EngineFixture {
+class Contact : public FloorFixture {
 protected:
-    void SetUp() override {
-        EngineFixture::SetUp();
-        addCallback("A", [this](SceneObject*, So_Addition*) { ++runs; });
-        floor = addBox(0.0F, 0.0F, 50.0F, 10.0F, 0.0F);
-    }
-
-    void TearDown() override {
-        callbackTable().erase("A");
-        EngineFixture::TearDown();
-    }
-
     static SceneObject* addBall(float x, float y, float mass) {
         return addToScene(createSphere(x, y, 10.0F, 0.0F, 0.5F, mass));
     }
@@ -31,9 +16,6 @@ protected:
         body(object).getWorldTransform().setOrigin({x, y, 0.0F});
         body(object).setLinearVelocity({0.0F, 0.0F, 0.0F});
     }
-
-    SceneObject* floor = nullptr;
-    int runs = 0;
 };
 
 TEST_F(Contact, ATriggerFiresOncePerTouch) {
