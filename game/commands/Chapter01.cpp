@@ -6,7 +6,7 @@
 static void doNothing(SceneObject*, So_Addition*) {}
 
 std::span<const NamedCommand> chapter01Commands() {
-    static constexpr std::array table{
+    static const std::array table{
         NamedCommand{"CHAPTER1CUT", doNothing},
     };
     return table;

@@ -12,7 +12,7 @@ static void strengthen(SceneObject* owner, So_Addition*) {
 }
 
 std::span<const NamedCommand> chapter07Commands() {
-    static constexpr std::array table{
+    static const std::array table{
         NamedCommand{"CH7STRONG", strengthen},
     };
     return table;

@@ -1,15 +1,13 @@
 #pragma once
 
+#include "sceneManager/So_Addons/CallbackAdd.h"
+
 #include <span>
 
-class SceneObject;
-class So_Addition;
-
-/// A word that scripts call by name. `owner` is the object whose chain fired, null in a global
-/// script; `link` is the link that fired.
+/// A word that scripts call by name.
 struct NamedCommand {
     const char* name;
-    void (*run)(SceneObject* owner, So_Addition* link);
+    ScriptCallback run;
 };
 
 // The tables, in the order in which they are entered.

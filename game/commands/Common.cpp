@@ -1,6 +1,6 @@
 #include "CommandTables.h"
 #include "ProcessValues.h"
-#include "game/ChapterFlow.h"
+#include "game/flow/ChapterFlow.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/InterfaceGraphicsObject.h"
@@ -165,7 +165,7 @@ void makeInvisible(SceneObject* owner, So_Addition*) {
 } // namespace
 
 std::span<const NamedCommand> commonCommands() {
-    static constexpr std::array table{
+    static const std::array table{
         NamedCommand{"ZOOMIN", zoomIn},
         NamedCommand{"FADEALLTOWHITE", fadeAllToWhite},
         NamedCommand{"FADEALLTOBLUE", fadeAllToBlue},

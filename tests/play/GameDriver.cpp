@@ -5,7 +5,7 @@
 #include "GameStart.h"
 #include "ProcessValues.h"
 #include "TextStream.h"
-#include "game/ChapterFlow.h"
+#include "game/flow/ChapterFlow.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/GraphicsObject.h"

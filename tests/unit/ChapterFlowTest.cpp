@@ -2,7 +2,7 @@
 
 #include "GameStart.h"
 #include "ModuleManager.h"
-#include "game/ChapterFlow.h"
+#include "game/flow/ChapterFlow.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "physicsModule/PhysicsModule.h"

@@ -2,8 +2,8 @@
 
 #include "PhysicsBodies.h"
 #include "ProcessValues.h"
-#include "game/ChapterFlow.h"
 #include "game/commands/CommandTables.h"
+#include "game/flow/ChapterFlow.h"
 #include "inputModule/GameInput.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/SceneObjectDescription.h"

@@ -3,7 +3,7 @@
 #include "ModuleManager.h"
 #include "ProcessValues.h"
 #include "Protagonist.h"
-#include "commands/CommandTables.h"
+#include "game/commands/CommandTables.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LockedCamera.h"
 #include "inputModule/GameInput.h"
@@ -39,11 +39,6 @@ void reloadChapter(SceneObject*, So_Addition*) {
     enterMapOrQuit(currentMap);
 }
 
-constexpr std::array flowCommands{
-    NamedCommand{"CHECKINGFORPLAYERDEATH", watchForDeath},
-    NamedCommand{"RELOADCHAPTER", reloadChapter},
-};
-
 void followWithCamera(Player& player) {
     Camera*& camera = graphicsModule().camera;
     delete camera;
@@ -78,7 +73,10 @@ void registerFlowCommands() {
     static bool registered = false;
     if (!registered) {
         registered = true;
-        addCommands(flowCommands);
+        addCommands(std::array{
+            NamedCommand{"CHECKINGFORPLAYERDEATH", watchForDeath},
+            NamedCommand{"RELOADCHAPTER", reloadChapter},
+        });
     }
 }
 
