@@ -17,5 +17,18 @@ void registerNamedCommands() {
     registered = true;
     addCommands(commonCommands());
     addCommands(chapter01Commands());
+    addCommands(chapter02Commands());
+    addCommands(chapter03Commands());
+    addCommands(chapter04Commands());
+    addCommands(chapter05Commands());
+    addCommands(chapter06Commands());
     addCommands(chapter07Commands());
+    addCommands(chapter08Commands());
+    addCommands(chapter09Commands());
+    addCommands(chapter10Commands());
+    addCommands(chapter11Commands());
+    addCommands(chapter12Commands());
+    addCommands(chapter13Commands());
+    addCommands(chapter14Commands());
+    addCommands(chapter15Commands());
 }

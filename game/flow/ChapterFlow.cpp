@@ -2,6 +2,7 @@
 
 #include "ModuleManager.h"
 #include "ProcessValues.h"
+#include "Progress.h"
 #include "Protagonist.h"
 #include "game/commands/CommandTables.h"
 #include "graphicsModule/GraphicsModule.h"
@@ -65,6 +66,16 @@ void takeControl(Player& player) {
 
 } // namespace
 
+/// What a map's last script calls: "CH2END" and so on.
+static void addChapterEnd(int number) {
+    addCallback("CH" + std::to_string(number) + "END", [number](SceneObject*, So_Addition*) {
+        levelRunning = 0;
+        finishChapter(number);
+        runScript("LOCK FADEALLTOBLACK DELAY 100 CHAPTER" + std::to_string(number + 1) +
+                  "INTRO REMOVESCRIPT");
+    });
+}
+
 void runScript(const std::string& text) {
     physicsModule().addScript(parseScript(text));
 }
@@ -77,6 +88,9 @@ void registerFlowCommands() {
             NamedCommand{"CHECKINGFORPLAYERDEATH", watchForDeath},
             NamedCommand{"RELOADCHAPTER", reloadChapter},
         });
+        for (int number = 2; number <= chapterCount; ++number) {
+            addChapterEnd(number);
+        }
     }
 }
 

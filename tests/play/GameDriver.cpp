@@ -2,7 +2,6 @@
 
 #include "support/ScriptedWindow.h"
 
-#include "GameStart.h"
 #include "ProcessValues.h"
 #include "TextStream.h"
 #include "game/flow/ChapterFlow.h"
@@ -34,9 +33,10 @@ constexpr int drawEvery = 20; // steps; software drawing is the dearest part of 
 
 } // namespace
 
-GameDriver::GameDriver(ScriptedWindow& scripted) : window(scripted) {
+GameDriver::GameDriver(ScriptedWindow& scripted, const std::string& map) : window(scripted) {
     window.moveMouse(windowWidth / 2, windowHeight / 2);
-    gameStart();
+    registerFlowCommands();
+    enterMap(map);
 }
 
 void GameDriver::step() {

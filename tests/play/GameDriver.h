@@ -15,8 +15,8 @@ class ScriptedWindow;
 /// then.
 class GameDriver {
 public:
-    /// The engine must be set up. Starts the game, as the program does.
-    explicit GameDriver(ScriptedWindow& window);
+    /// The engine must be set up. Enters the map.
+    explicit GameDriver(ScriptedWindow& window, const std::string& map = "CHAPTER1.vkl");
 
     void step();
     /// Presses or releases: left, right, up, down, shift, escape, mouse, mouse2.

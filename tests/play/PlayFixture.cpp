@@ -36,9 +36,9 @@ std::unique_ptr<PaintDevice> PlayFixture::makeDevice() {
     return std::make_unique<GlDevice>();
 }
 
-std::size_t PlayFixture::follow(const std::string& path, const char* picture,
-                                std::function<void(const GameDriver&)> afterStep) {
-    GameDriver game(*window);
+std::size_t PlayFixture::follow(const std::string& map, const std::string& path,
+                                const std::string& picture, StepWatch afterStep) {
+    GameDriver game(*window, map);
     game.afterStep = std::move(afterStep);
     if (pictures != nullptr) {
         game.keepPictures(pictures, 60);

@@ -21,14 +21,16 @@ protected:
         return TOLMERE_MAP_SOURCES "/" + chapter + ".walk";
     }
 
-    /// Plays a walkthrough, and tells of every step if asked to; a failure names the place and
-    /// leaves a picture of it. Returns the hash of the scene at the end.
-    std::size_t follow(const std::string& path, const char* picture,
-                       std::function<void(const GameDriver&)> afterStep = nullptr);
-    /// The same for the walkthrough of a chapter.
-    std::size_t play(const std::string& chapter, const char* picture,
-                     std::function<void(const GameDriver&)> afterStep = nullptr) {
-        return follow(pathOf(chapter), picture, std::move(afterStep));
+    using StepWatch = std::function<void(const GameDriver&)>;
+
+    /// Plays a walkthrough of a map, and tells of every step if asked to; a failure names the place
+    /// and leaves a picture of it. Returns the hash of the scene at the end.
+    std::size_t follow(const std::string& map, const std::string& path, const std::string& picture,
+                       StepWatch afterStep = nullptr);
+    /// The same for a chapter and its own walkthrough.
+    std::size_t play(const std::string& chapter, const std::string& picture,
+                     StepWatch afterStep = nullptr) {
+        return follow(chapter + ".vkl", pathOf(chapter), picture, std::move(afterStep));
     }
 
     const char* pictures = std::getenv("TOLMERE_PICTURES");

@@ -2,7 +2,10 @@
 
 #include "GameDriver.h"
 
+#include "ProcessValues.h"
+#include "game/flow/Progress.h"
 #include "graphicsModule/GraphicsObject.h"
+#include "inputModule/GameInput.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/ObjectNameAdd.h"
@@ -46,6 +49,10 @@ Condition parseCondition(const Words& words, std::size_t at, int& limit) {
         condition.kind = Condition::Kind::standing;
     } else if (rest.size() == 1 && rest[0] == "speaking") {
         condition.kind = Condition::Kind::speaking;
+    } else if (rest.size() == 1 && rest[0] == "free") {
+        condition.kind = Condition::Kind::free;
+    } else if (rest.size() == 1 && rest[0] == "finished") {
+        condition.kind = Condition::Kind::finished;
     } else if (rest.size() == 2 && rest[1] == "faded") {
         condition.kind = Condition::Kind::faded;
         condition.name = rest[0];
@@ -131,8 +138,10 @@ Direction parseDirection(const std::string& text, int line) {
     direction.line = line;
     direction.text = text;
     const std::string& verb = words.at(0);
-    if (verb == "hold" || verb == "release") {
-        direction.verb = verb == "hold" ? Direction::Verb::hold : Direction::Verb::release;
+    if (verb == "hold" || verb == "release" || verb == "press") {
+        direction.verb = verb == "hold"      ? Direction::Verb::hold
+                         : verb == "release" ? Direction::Verb::release
+                                             : Direction::Verb::press;
         direction.key = words.at(1);
     } else if (verb == "walk") {
         direction.verb = Direction::Verb::walk;
@@ -252,10 +261,15 @@ bool Condition::holds(const GameDriver& game) const {
     if (kind == Kind::gone) {
         return sceneManager().getSceneObject(name) == nullptr;
     }
+    if (kind == Kind::finished) {
+        return readProgress().any();
+    }
     if (player == nullptr) {
         return false;
     }
     switch (kind) {
+    case Kind::free:
+        return movementLocked == 0 && physicsRunning != 0;
     case Kind::standing:
         return player->supportNow != nullptr;
     case Kind::speaking:
@@ -318,6 +332,13 @@ void Walkthrough::follow(const Direction& direction, GameDriver& game) const {
         return;
     case Direction::Verb::release:
         game.hold(direction.key, false);
+        return;
+    case Direction::Verb::press:
+        game.hold(direction.key, true);
+        game.step();
+        game.step();
+        game.hold(direction.key, false);
+        game.step();
         return;
     case Direction::Verb::aim:
     case Direction::Verb::grab:

@@ -8,7 +8,11 @@ class GameDriver;
 
 /// A question about the running game that a direction waits for or expects.
 struct Condition {
-    enum class Kind { coordinate, touching, standing, speaking, on, gone, faded, holding };
+    // clang-format off
+    enum class Kind {
+        coordinate, touching, standing, speaking, on, gone, faded, holding, free, finished
+    };
+    // clang-format on
 
     Kind kind = Kind::standing;
     std::string name; ///< Object asked about; empty means the protagonist.
@@ -22,7 +26,7 @@ struct Condition {
 /// One line of a walkthrough.
 struct Direction {
     // clang-format off
-    enum class Verb { hold, release, walk, jump, wait, aim, expect, reload, grab, drop, toss, climb };
+    enum class Verb { hold, release, press, walk, jump, wait, aim, expect, reload, grab, drop, toss, climb };
     // clang-format on
 
     int line = 0;
@@ -43,6 +47,7 @@ struct Direction {
 ///     walk left|right N | until CONDITION     holds the key meanwhile
 ///     jump N                                  holds up for N steps
 ///     wait N | until CONDITION
+///     press KEY                               for two steps; any key of the above, or escape
 ///     aim X Y | aim at NAME                   mouse, in world units from the character
 ///     expect CONDITION
 ///     reload                                  saves the scene and loads it again
@@ -53,7 +58,8 @@ struct Direction {
 ///     end
 ///
 /// CONDITION is "[NAME] x|y above|below V", "touching NAME", "on NAME", "holding NAME", "NAME
-/// gone", "NAME faded" (nothing is seen of it any more), "standing" or "speaking". A condition may
+/// gone", "NAME faded" (nothing is seen of it any more), "standing", "speaking", "free" (the user
+/// has control of the legs, and the world runs) or "finished" (a chapter has been). A condition may
 /// be followed by "within N" steps. Empty lines and those that begin with # are notes.
 class Walkthrough {
 public:

@@ -2,7 +2,10 @@
 #include "PlayFixture.h"
 
 #include "Files.h"
+#include "game/flow/Progress.h"
 #include "tools/mapc/MapCompiler.h"
+
+#include <filesystem>
 
 // Walkthroughs play the levels by what a user has: keys, mouse and time. Each is the proof that its
 // level can be finished.
@@ -33,15 +36,52 @@ protected:
     std::string path; ///< Without its ending.
 };
 
+/// A chapter that has a walkthrough to its end, by its number.
+class Chapters : public Play, public testing::WithParamInterface<int> {
+protected:
+    std::string name() const { return "CHAPTER" + std::to_string(GetParam()); }
+};
+
 class HandsLevel : public SmallLevel {
 protected:
     HandsLevel() : SmallLevel("hands") {}
 };
 
+/// Plays on from a save at each expectation of the walkthrough. What is expected there is expected
+/// of a character that stands still: places to save at.
+void playThroughSaves(const std::string& path, GameDriver& game) {
+    const Walkthrough walkthrough(path);
+    Direction pause;
+    pause.steps = 25; // a new character cannot jump for a third of a second
+    for (const Direction& direction : walkthrough.getDirections()) {
+        if (direction.verb == Direction::Verb::expect) {
+            game.reload();
+            walkthrough.follow(pause, game);
+        }
+        try {
+            walkthrough.follow(direction, game);
+        } catch (const std::string& reason) {
+            throw direction.text + ": " + reason + ", " + game.describePlace();
+        }
+    }
+}
+
+/// The chapters from the second on that have a walkthrough.
+std::vector<int> chaptersToWalk() {
+    std::vector<int> numbers;
+    for (int number = 2; number <= chapterCount; ++number) {
+        const std::string name = "/CHAPTER" + std::to_string(number) + ".walk";
+        if (std::filesystem::exists(TOLMERE_MAP_SOURCES + name)) {
+            numbers.push_back(number);
+        }
+    }
+    return numbers;
+}
+
 } // namespace
 
 TEST_F(HandsLevel, ACrateIsCarriedAndThrownAndALianaClimbed) {
-    follow(path + ".walk", "hands-failed.ppm");
+    follow("CHAPTER1.vkl", path + ".walk", "hands-failed.ppm");
 }
 
 TEST_F(Play, Chapter1IsFinishedFromItsStartToItsRightEnd) {
@@ -55,22 +95,32 @@ TEST_F(Play, TwoRunsOfAWalkthroughEndInTheSameScene) {
     EXPECT_EQ(first, play("CHAPTER1", "chapter1-second.ppm"));
 }
 
-// What a walkthrough expects, it expects of a character that stands still: places to save at.
 TEST_F(Play, Chapter1IsFinishedThroughASaveAtEachOfItsExpectations) {
     GameDriver game(*window);
-    const Walkthrough walkthrough(pathOf("CHAPTER1"));
-    Direction pause;
-    pause.steps = 25; // a new character cannot jump for a third of a second
-    for (const Direction& direction : walkthrough.getDirections()) {
-        if (direction.verb == Direction::Verb::expect) {
-            game.reload();
-            walkthrough.follow(pause, game);
-        }
-        try {
-            walkthrough.follow(direction, game);
-        } catch (const std::string& reason) {
-            game.screenshot(startDirectory + "/chapter1-reloaded.ppm");
-            FAIL() << direction.text << ": " << reason << ", " << game.describePlace();
-        }
+    try {
+        playThroughSaves(pathOf("CHAPTER1"), game);
+    } catch (const std::string& reason) {
+        game.screenshot(startDirectory + "/chapter1-reloaded.ppm");
+        FAIL() << reason;
     }
 }
+
+TEST_P(Chapters, IsFinishedFromItsStartToItsEnd) {
+    play(name(), name() + "-failed.ppm");
+    EXPECT_TRUE(readProgress()[static_cast<std::size_t>(GetParam()) - 1]);
+}
+
+TEST_P(Chapters, IsFinishedThroughASaveAtEachExpectation) {
+    GameDriver game(*window, name() + ".vkl");
+    try {
+        playThroughSaves(pathOf(name()), game);
+    } catch (const std::string& reason) {
+        game.screenshot(startDirectory + "/" + name() + "-reloaded.ppm");
+        FAIL() << reason;
+    }
+    EXPECT_TRUE(readProgress()[static_cast<std::size_t>(GetParam()) - 1]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Walk, Chapters, testing::ValuesIn(chaptersToWalk()),
+                         [](const auto& chapter) { return std::to_string(chapter.param); });
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Chapters);

@@ -3,6 +3,7 @@
 #include "Files.h"
 #include "MapCompiler.h"
 #include "MapDump.h"
+#include "game/flow/ChapterFlow.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
@@ -96,6 +97,7 @@ int main(int argc, char** argv) {
     try {
         line = parseArguments({argv, static_cast<std::size_t>(argc)});
         sceneManager(); // enters the named commands, which scripts may call
+        registerFlowCommands();
         status = run(line);
     } catch (const std::string& reason) {
         std::cerr << (line.words.size() > 1 ? line.words[1] + ": " : "mapc: ") << reason << '\n';

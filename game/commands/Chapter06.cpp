@@ -1,0 +1,7 @@
+#include "CommandTables.h"
+
+#include <array>
+
+std::span<const NamedCommand> chapter06Commands() {
+    return {};
+}
