@@ -200,6 +200,32 @@ TEST_F(MapCompilerTest, LightsStandByThemselvesOrHangOnBodies) {
     EXPECT_EQ(0, polygonOf(bundle, 3).castsShadow) << "areas that are only felt keep no light off";
 }
 
+TEST_F(MapCompilerTest, EmittersSprayFromTheirAreaOrFromABody) {
+    const std::string spray = R"({"type":"Emitter","id":)";
+    const SceneBundle bundle = load(mapOf(
+        R"({"id":1,"type":"Crate","x":0,"y":100,"width":20,"height":20},)" + spray +
+        R"(2,"x":90,"y":0,"width":60,"height":20)" +
+        with({{"colour", "#80ff0000"}, {"life", 50}, {"spread", 90}, {"gravityY", -10}}) + "}," +
+        spray + R"(3,"point":true,"x":0,"y":0)" +
+        with({{"on", 1}, {"rate", 0.5}, {"additive", true}, {"endColour", "#ff00ff00"}}) + "}"));
+    ASSERT_EQ(3U, bundle.objects.size()) << "an emitter on a body is no object";
+    const auto recordOf = [&bundle](std::size_t index) {
+        TextWriter stream;
+        bundle.objects[index]->additions.at(0)->save(stream);
+        return stream.takeText();
+    };
+    EXPECT_EQ("14 6 0.8 unknown 50 1 0 0 0.501961 50 0 1 0 0 0 0 0 -10 0 1.5708 0.2 0 ",
+              recordOf(1));
+    EXPECT_EQ("14 6 0.8 unknown 120 1 1 1 1 120 0 0 1 0 1 0 0 0 0 3.14159 0.5 1 ", recordOf(0));
+    btVector3 least;
+    btVector3 most;
+    bodyOf(bundle, 1).getAabb(least, most);
+    EXPECT_NEAR(60.0F, most.x() - least.x(), 1.0F);
+    EXPECT_EQ(0, bundle.objects[1]->physicsObject->kind);
+    EXPECT_THAT(complaintOf(spray + R"(1,"point":true,"x":0,"y":0)" + with({{"life", 0}}) + "}"),
+                HasSubstr("\"life\" must not be below 1"));
+}
+
 TEST_F(MapCompilerTest, AWaterIsABoxToSwimInWithOrWithoutWaves) {
     const std::string area = R"("type":"Water","x":0,"y":100,"width":200,"height":60)";
     const SceneBundle bundle =
@@ -345,9 +371,9 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
          "object 77, which is not in the level"},
         {R"({"id":6,"type":"Light")" + area + with({{"on", 7}}) + R"(},{"id":7,"type":"Scenery")" +
              area + "}",
-         "object 7, which has no body to carry a light"},
+         "object 7, which has no body to carry anything"},
         {R"({"id":6,"type":"Light")" + area + with({{"group", "G"}}) + "}",
-         "the group has no body to carry a light"},
+         "the group has no body to carry it"},
         {crate + with({{"dialog", "60 hm\nqq5"}}) + "}",
          "the line \"qq5\": it needs steps above 0"},
         {crate + with({{"dialog", "0 hm"}}) + "}", "it needs steps above 0"},

@@ -94,6 +94,24 @@ struct Light {
     std::string texture;
 };
 
+/// A source of particles that an object carries: the engine's record, field by field.
+struct Emitter {
+    float size = 0.0F; ///< Half the side at birth.
+    float z = 0.0F;
+    std::string texture;
+    float life = 0.0F; ///< Steps.
+    Colour colour;     ///< At birth.
+    float fade = 0.0F; ///< Steps at the end of life.
+    float endSize = 0.0F;
+    Colour endColour;
+    float speed = 0.0F;  ///< Units a second, along the object's up.
+    Point gravity;       ///< Units a second, added in each step.
+    float spin = 0.0F;   ///< Radians a second, either way.
+    float spread = 0.0F; ///< Half the angle of the cone, radians.
+    float rate = 0.0F;   ///< Particles a step.
+    bool additive = false;
+};
+
 /// What makes a box a body of water.
 enum class Surface { still, waves };
 
@@ -112,6 +130,7 @@ struct LevelObject {
     std::optional<float> forcePower; ///< Along its own up axis, in units of the world's gravity.
     std::optional<Dialog> dialog;
     std::vector<Light> lights;
+    std::vector<Emitter> emitters;
 };
 
 constexpr int worldIndex = -1; ///< In place of an object: the joint's other side is the world.

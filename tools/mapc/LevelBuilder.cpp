@@ -1,5 +1,6 @@
 #include "LevelBuilder.h"
 
+#include "EmitterRecord.h"
 #include "JointBuilder.h"
 #include "LightRecord.h"
 #include "ObjectAdditions.h"
@@ -15,7 +16,7 @@ namespace mapc {
 namespace {
 
 constexpr float markerHalf = 5.0F;
-constexpr const char* bearerProperty = "on"; // the object that a light hangs on
+constexpr const char* bearerProperty = "on"; // the object that a light or an emitter hangs on
 constexpr float narrowestWater = 20.0F;
 
 /// What makes several objects one: a property, or a layer of class Compound around them.
@@ -29,7 +30,7 @@ std::string groupOf(const TiledObject& object) {
 /// Whether the object only adds to others, which must all be built before.
 bool isAttached(const TiledObject& object, Role role) {
     return role == Role::rope || role == Role::hinge || role == Role::slider ||
-           (role == Role::light &&
+           ((role == Role::light || role == Role::emitter) &&
             (object.properties.integer(bearerProperty, 0) != 0 || !groupOf(object).empty()));
 }
 
@@ -73,6 +74,8 @@ public:
                 joints.addSlider(object);
             } else if (objectClass.role == Role::light) {
                 addLight(object, objectClass);
+            } else if (objectClass.role == Role::emitter) {
+                bearerOf(object).emitters.push_back(readEmitter(object, objectClass));
             }
         });
         return std::move(level);
@@ -142,14 +145,15 @@ private:
         bearer.lights.push_back(std::move(light));
     }
 
-    /// What a light belongs to: the object that it names, its group, or an object of its own.
-    LevelObject& bearerOf(const TiledObject& light) {
-        const int named = light.properties.integer(bearerProperty, 0);
-        const auto owner = partOwners.find(named == 0 ? light.id : named);
+    /// What a light or an emitter belongs to: the object that it names, its group, or an object of
+    /// its own.
+    LevelObject& bearerOf(const TiledObject& source) {
+        const int named = source.properties.integer(bearerProperty, 0);
+        const auto owner = partOwners.find(named == 0 ? source.id : named);
         if (named == 0 && owner == partOwners.end()) {
-            const auto group = groups.find(groupOf(light));
+            const auto group = groups.find(groupOf(source));
             if (group == groups.end() || !level.objects[group->second].body.has_value()) {
-                throw std::string("the group has no body to carry a light");
+                throw std::string("the group has no body to carry it");
             }
             return level.objects[group->second];
         }
@@ -159,7 +163,7 @@ private:
             throw which + ", which is not in the level";
         }
         if (!level.objects[owner->second].body.has_value()) {
-            throw which + ", which has no body to carry a light";
+            throw which + ", which has no body to carry anything";
         }
         return level.objects[owner->second];
     }
@@ -169,7 +173,8 @@ private:
         part.id = object.id;
         part.look = readAppearance(object, objectClass);
         part.solid = objectClass.role != Role::scenery && objectClass.role != Role::mesh;
-        if (isPlace(objectClass.role)) {
+        const bool isArea = objectClass.role == Role::emitter && object.width > 0.0F;
+        if (isPlace(objectClass.role) && !isArea) {
             part.shape = {ShapeKind::box,
                           {{-markerHalf, -markerHalf},
                            {-markerHalf, markerHalf},

@@ -1,5 +1,6 @@
 #include "LevelWriter.h"
 
+#include "EmitterRecord.h"
 #include "LightRecord.h"
 #include "RecordWriters.h"
 
@@ -57,6 +58,10 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
     }
     for (const Light& light : object.lights) {
         record(AdditionType::light, [&](TextWriter& stream) { writeLight(stream, light); });
+    }
+    for (const Emitter& emitter : object.emitters) {
+        record(AdditionType::particleEmiter,
+               [&](TextWriter& stream) { writeEmitter(stream, emitter); });
     }
     if (object.water.has_value()) {
         record(AdditionType::water, [](TextWriter& stream) { stream << 0.0F; });

@@ -84,6 +84,9 @@ void checkTextures(const Level& level, const TextureSizes& textures,
         for (const Light& light : object.lights) {
             check(light.texture);
         }
+        for (const Emitter& emitter : object.emitters) {
+            check(emitter.texture);
+        }
     }
 }
 

@@ -24,6 +24,7 @@ constexpr auto classTable = std::to_array<ObjectClass>({
     {"Water", water, "water.tga", -0.2F, mixed, 0.0F, 0.5F, 0.0F},
     {"Marker", marker, invisible, 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Light", light, "light1.tga", 0.0F, bounds, 0.0F, 0.5F, 0.0F},
+    {"Emitter", emitter, "particle8.tga", 0.8F, bounds, 0.0F, 0.5F, 0.0F},
     {"Rope", rope, "liana.tga", -0.35F, bounds, 2.0F, 0.0F, 0.0F},
     {"Hinge", hinge, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
     {"Slider", slider, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},

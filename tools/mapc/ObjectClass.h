@@ -18,6 +18,7 @@ enum class Role {
     water,      ///< A box to swim in.
     marker,     ///< A named place.
     light,      ///< A light, on a body or at a place of its own.
+    emitter,    ///< A source of particles, the same.
     rope,       ///< A chain of loose bodies.
     hinge,
     slider,
@@ -43,7 +44,7 @@ const ObjectClass* findObjectClass(const std::string& name);
 
 /// Whether objects of the role are places, without a shape of their own.
 constexpr bool isPlace(Role role) {
-    return role == Role::marker || role == Role::light;
+    return role == Role::marker || role == Role::light || role == Role::emitter;
 }
 
 /// The texture that the object names, or that of its class; empty for "none".
