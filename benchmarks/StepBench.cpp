@@ -1,16 +1,11 @@
+#include "BareWorld.h"
 #include "Ratio.h"
 
 #include "graphicsModule/TextureStore.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
-#include "physicsModule/btFixedWorld.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
-
-#include <BulletCollision/CollisionDispatch/btBox2dBox2dCollisionAlgorithm.h>
-#include <BulletCollision/CollisionDispatch/btConvex2dConvex2dAlgorithm.h>
-#include <BulletCollision/NarrowPhaseCollision/btMinkowskiPenetrationDepthSolver.h>
-#include <btBulletDynamicsCommon.h>
 
 #include <memory>
 #include <vector>
@@ -40,65 +35,6 @@ void placeRoom(Make make) {
     make(roomHalfWidth + 40.0F, 1000.0F, 40.0F, 1100.0F);
 }
 
-/// The bodies without anything of ours around them.
-class BareWorld {
-public:
-    explicit BareWorld(int count)
-        : dispatcher(&configuration),
-          world(&dispatcher, &broadphase, &solver, &configuration) {
-        convexFunction =
-            std::make_unique<btConvex2dConvex2dAlgorithm::CreateFunc>(&simplex, &penetration);
-        const int box = BOX_2D_SHAPE_PROXYTYPE;
-        const int convex = CONVEX_2D_SHAPE_PROXYTYPE;
-        dispatcher.registerCollisionCreateFunc(convex, convex, convexFunction.get());
-        dispatcher.registerCollisionCreateFunc(box, convex, convexFunction.get());
-        dispatcher.registerCollisionCreateFunc(convex, box, convexFunction.get());
-        dispatcher.registerCollisionCreateFunc(box, box, &boxFunction);
-        world.setGravity(physicsModule().world->getGravity());
-        world.getSolverInfo() = physicsModule().world->getSolverInfo();
-        placeRoom([this](float x, float y, float w, float h) {
-            add(createBox(x, y, w, h, 0.1F, 0.5F, 0.0F), 2, 0xFFF5);
-        });
-        placeBodies(count, [this](float x, float y, bool disc) {
-            add(disc ? createSphere(x, y, 18.0F, 0.1F, 0.5F, 1.0F)
-                     : createBox(x, y, 18.0F, 18.0F, 0.1F, 0.5F, 1.0F),
-                1, 0xFFF7);
-        });
-    }
-    ~BareWorld() {
-        for (const auto& object : bodies) {
-            world.removeRigidBody(object->body.get());
-        }
-    }
-    BareWorld(const BareWorld&) = delete;
-    BareWorld& operator=(const BareWorld&) = delete;
-
-    void step() { world.stepSimulation(1.0F / 60.0F, 0, 1.0F / 60.0F); }
-
-private:
-    void add(PhysicsObject* object, int group, int mask) {
-        bodies.emplace_back(object);
-        world.addRigidBody(object->body.get(), group, mask);
-    }
-
-    static btDefaultCollisionConstructionInfo makeInfo() {
-        btDefaultCollisionConstructionInfo info;
-        info.m_defaultMaxPersistentManifoldPoolSize = 32768;
-        return info;
-    }
-
-    btDefaultCollisionConfiguration configuration{makeInfo()};
-    btCollisionDispatcher dispatcher;
-    btDbvtBroadphase broadphase;
-    btSequentialImpulseConstraintSolver solver;
-    btVoronoiSimplexSolver simplex;
-    btMinkowskiPenetrationDepthSolver penetration;
-    std::unique_ptr<btConvex2dConvex2dAlgorithm::CreateFunc> convexFunction;
-    btBox2dBox2dCollisionAlgorithm::CreateFunc boxFunction;
-    btFixedWorld world;
-    std::vector<std::unique_ptr<PhysicsObject>> bodies;
-};
-
 void fillScene(int count) {
     SceneObjectDescription wall{};
     wall.physical = true;
@@ -119,7 +55,15 @@ void fillScene(int count) {
 void wholeStep(benchmark::State& state) {
     const int count = static_cast<int>(state.range(0));
     fillScene(count);
-    BareWorld bare(count);
+    BareWorld bare;
+    std::vector<std::unique_ptr<PhysicsObject>> bodies;
+    const auto add = [&](PhysicsObject* object) { bare.add(*bodies.emplace_back(object)); };
+    placeRoom(
+        [&](float x, float y, float w, float h) { add(createBox(x, y, w, h, 0.1F, 0.5F, 0.0F)); });
+    placeBodies(count, [&](float x, float y, bool disc) {
+        add(disc ? createSphere(x, y, 18.0F, 0.1F, 0.5F, 1.0F)
+                 : createBox(x, y, 18.0F, 18.0F, 0.1F, 0.5F, 1.0F));
+    });
     compare(
         state, 120, 1.10, [] { physicsModule().update(); }, [&bare] { bare.step(); });
     sceneManager().clearScene();
