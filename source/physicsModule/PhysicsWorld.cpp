@@ -224,8 +224,17 @@ void PhysicsModule::setWorldFrame(const btMatrix3x3& matrix) {
 
 std::vector<btRigidBody*> PhysicsModule::queryBox(float x, float y, float halfWidth,
                                                   float halfHeight) {
+    std::vector<btRigidBody*> found;
+    queryBox(x, y, halfWidth, halfHeight, found);
+    return found;
+}
+
+void PhysicsModule::queryBox(float x, float y, float halfWidth, float halfHeight,
+                             std::vector<btRigidBody*>& found) {
     myAABBCallback callback;
+    callback.bodies = std::move(found);
+    callback.bodies.clear();
     broadphase->aabbTest(btVector3(x - halfWidth, y - halfHeight, 0),
                          btVector3(x + halfWidth, y + halfHeight, 0), callback);
-    return std::move(callback.bodies);
+    found = std::move(callback.bodies);
 }

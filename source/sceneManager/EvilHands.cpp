@@ -1,12 +1,32 @@
 #include "EvilHands.h"
 
 #include "Equipment.h"
-#include "Player.h"
+#include "EvilPlayer.h"
+
+/// Sends the monsters around to where the leader looks. The first to go answers it.
+static void rally(const EvilPlayer& leader) {
+    bool answered = false;
+    for (SceneObject* neighbour : leader.getNeighbours()) {
+        EvilPlayer* follower = EvilPlayer::of(neighbour);
+        if (follower == nullptr || follower == &leader) {
+            continue;
+        }
+        follower->waypoints.clear();
+        if (!follower->call(leader.aimPoint)) {
+            continue;
+        }
+        follower->lightEyes();
+        if (!answered) {
+            follower->growl();
+            answered = true;
+        }
+    }
+}
 
 EvilHands::EvilHands() : EqWeapon(0.0F, 500.0F) {}
 
-PackLeader* EvilHands::leader() const {
-    return dynamic_cast<PackLeader*>(equipment->owner);
+EvilPlayer* EvilHands::leader() const {
+    return EvilPlayer::of(equipment->owner);
 }
 
 void EvilHands::releaseButton() const {
@@ -14,22 +34,24 @@ void EvilHands::releaseButton() const {
 }
 
 void EvilHands::primaryDown() {
-    if (PackLeader* monster = leader()) {
-        monster->rally(equipment->owner->aimPoint);
+    if (EvilPlayer* monster = leader()) {
+        monster->growl();
+        monster->findPrey();
+        rally(*monster);
         monster->lightEyes();
     }
     releaseButton();
 }
 
 void EvilHands::secondaryDown() {
-    if (PackLeader* monster = leader()) {
+    if (EvilPlayer* monster = leader()) {
         monster->lightEyes();
     }
     releaseButton();
 }
 
 void EvilHands::secondaryUp() {
-    if (PackLeader* monster = leader()) {
+    if (EvilPlayer* monster = leader()) {
         monster->dimEyes();
     }
 }

@@ -2,19 +2,10 @@
 
 #include "EqWeapon.h"
 
-#include <LinearMath/btVector3.h>
-
-/// What a character must be to lead others through `EvilHands`.
-class PackLeader {
-public:
-    virtual ~PackLeader() = default;
-    /// Howls, and sends the others around that hunt nothing to the place.
-    virtual void rally(const btVector3& place) = 0;
-    virtual void lightEyes() = 0;
-    virtual void dimEyes() = 0; ///< Without effect on dark ones.
-};
+class EvilPlayer;
 
 /// The item of a monster that the user steers: it calls the pack and lights the eyes.
+/// Nobody else can do anything with it.
 class EvilHands : public EqWeapon {
 public:
     EvilHands();
@@ -27,6 +18,6 @@ public:
     SceneObject* makeProjectile(float x, float y, float a, float vx, float vy) override;
 
 private:
-    PackLeader* leader() const; // null if the carrier leads nobody
+    EvilPlayer* leader() const; // null if the carrier is no monster
     void releaseButton() const;
 };

@@ -1,6 +1,7 @@
 #include "SceneObjectReaders.h"
 
 #include "DestructionObject.h"
+#include "EvilPlayer.h"
 #include "Forcefield.h"
 #include "Player.h"
 #include "TestPlayer.h"
@@ -21,6 +22,10 @@ SceneObject* readTestPlayer(TextReader& stream, const SceneParts& parts) {
     return TestPlayer::load(stream, parts);
 }
 
+SceneObject* readEvilPlayer(TextReader& stream, const SceneParts& parts) {
+    return EvilPlayer::load(stream, parts);
+}
+
 struct Row {
     int type;
     SceneObjectReader read;
@@ -33,6 +38,7 @@ constexpr std::array readers{
     Row{sceneObjectType::destruction, DestructionObject::load},
     Row{sceneObjectType::forcefield, Forcefield::load},
     Row{sceneObjectType::testPlayer, readTestPlayer},
+    Row{sceneObjectType::evilPlayer, readEvilPlayer},
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/Equipment.h"
+#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/Hands.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
@@ -130,8 +131,8 @@ protected:
     }
     void prepareDirectory() override {
         EngineFixture::prepareDirectory();
-        for (const char* name :
-             {"bell", "hum", "squeak", "thud", "roll", "foot0", "foot1", "heart"}) {
+        for (const char* name : {"bell", "hum", "squeak", "thud", "roll", "foot0", "foot1", "heart",
+                                 "lap", "zom0", "zom1", "zom2", "zom3"}) {
             directory.write("sound/" + std::string(name) + ".wav", "");
         }
     }
@@ -222,4 +223,26 @@ TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {
     walk(playerKey::left);
     walk(playerKey::right | playerKey::up);
     EXPECT_EQ(allocations, 0U);
+}
+
+TEST_F(Allocation, APackHuntsWithoutAllocating) {
+    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, -50, 5000, 50)));
+    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 430, 50, 50)));
+    auto* prey = new TestPlayer; // on a shelf, out of reach
+    sceneManager().addSceneObject(prey);
+    sceneManager().player = prey;
+    for (const float x : {0.0F, 250.0F, 600.0F, 800.0F}) {
+        auto* monster = new EvilPlayer;
+        monster->physicsObject->body->getWorldTransform().setOrigin({x, 250.0F, 0.0F});
+        sceneManager().addSceneObject(monster);
+    }
+    graphicsModule().camera->setX(500.0F);
+    step(300);
+    auto* last = static_cast<EvilPlayer*>(sceneManager().objects.back());
+    ASSERT_EQ(last->target, prey);
+    allocations = 0;
+    step(300);
+    EXPECT_EQ(allocations, 0U);
+    EXPECT_EQ(last->target, prey);
+    EXPECT_NE(mixer->running().find("heart.wav 128"), std::string::npos);
 }

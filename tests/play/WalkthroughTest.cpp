@@ -47,6 +47,11 @@ protected:
     HandsLevel() : SmallLevel("hands") {}
 };
 
+class HuntLevel : public SmallLevel {
+protected:
+    HuntLevel() : SmallLevel("hunt") {}
+};
+
 /// Plays on from a save at each expectation of the walkthrough. What is expected there is expected
 /// of a character that stands still: places to save at.
 void playThroughSaves(const std::string& path, GameDriver& game) {
@@ -79,6 +84,10 @@ std::vector<int> chaptersToWalk() {
 }
 
 } // namespace
+
+TEST_F(HuntLevel, AMonsterThatFollowsIntoTheLightDies) {
+    follow("CHAPTER1.vkl", path + ".walk", "hunt-failed.ppm");
+}
 
 TEST_F(HandsLevel, ACrateIsCarriedAndThrownAndALianaClimbed) {
     follow("CHAPTER1.vkl", path + ".walk", "hands-failed.ppm");

@@ -432,17 +432,6 @@ public:
     }
 };
 
-class Leader : public Player, public PackLeader {
-public:
-    using Player::Player;
-    void rally(const btVector3& place) override {
-        done += "rally " + std::to_string(static_cast<int>(place.x())) + " ";
-    }
-    void lightEyes() override { done += "light "; }
-    void dimEyes() override { done += "dim "; }
-    std::string done;
-};
-
 } // namespace
 
 TEST_F(HandsTest, AWeaponFiresFromItsMuzzleAtItsRate) {
@@ -463,21 +452,16 @@ TEST_F(HandsTest, AWeaponFiresFromItsMuzzleAtItsRate) {
     EXPECT_EQ(launcher->use(0, 15, 0, 2, 0), nullptr);
 }
 
-TEST_F(HandsTest, EvilHandsLeadAPackAndAnybodyElsesDoNothing) {
-    PhysicsObject* physics = createSphere(100, 15, 10, 0, 0, 1);
-    const GraphicsObjectData look = makeBoxData(1, 1, -1, 0, 1, 1, 1, 1, 1, 1);
-    auto* leader = new Leader({physics, new PhysicsGraphicsObject(look, physics)});
-    sceneManager().addSceneObject(leader);
-    leader->aimPoint.setX(77.0F);
-    for (Player* owner : {static_cast<Player*>(leader), static_cast<Player*>(player)}) {
-        auto* item = new EvilHands;
-        owner->equipment->add(item);
-        item->select();
-        owner->keys = playerKey::primary | playerKey::secondary;
-        item->primaryDown();
-        EXPECT_EQ(owner->keys, playerKey::secondary);
-        item->secondaryDown();
-        item->secondaryUp();
-    }
-    EXPECT_EQ(leader->done, "rally 77 light light dim ");
+TEST_F(HandsTest, EvilHandsAreOfNoUseToOthersThanMonsters) {
+    auto* item = new EvilHands;
+    player->equipment->add(item);
+    item->select();
+    player->keys = playerKey::primary | playerKey::secondary;
+    heard();
+    item->primaryDown();
+    item->secondaryDown();
+    item->secondaryUp();
+    EXPECT_EQ(player->keys, playerKey::secondary);
+    EXPECT_TRUE(player->additions.empty()) << "no lights";
+    EXPECT_EQ(item->use(0, 0, 0, 0, 0), nullptr);
 }

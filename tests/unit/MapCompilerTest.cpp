@@ -7,6 +7,7 @@
 #include "graphicsModule/TransformGraphicsObject.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/MapFile.h"
 #include "sceneManager/SceneObject.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
@@ -22,6 +23,9 @@
 #include <BulletDynamics/ConstraintSolver/btGeneric6DofSpringConstraint.h>
 #include <BulletDynamics/ConstraintSolver/btHingeConstraint.h>
 #include <BulletDynamics/Dynamics/btRigidBody.h>
+
+#include <array>
+#include <sstream>
 
 // From what the editor writes to what the engine reads.
 
@@ -89,6 +93,32 @@ float turnOf(const btRigidBody& body) {
 
 GraphicsObjecte& polygonOf(const SceneBundle& bundle, std::size_t index) {
     return dynamic_cast<GraphicsObjecte&>(*bundle.objects.at(index)->graphicsObject);
+}
+
+/// Words alike, and numbers but for rounding. Texture coordinates, which a plain texture does not
+/// show, do not count.
+void expectSameRecord(SceneObject& first, SceneObject& second) {
+    std::array<std::istringstream, 2> records;
+    for (SceneObject* object : {&first, &second}) {
+        auto& group = static_cast<MultiGraphics&>(*object->graphicsObject);
+        for (GraphicsObject* child : group.getChildren()) {
+            auto& texcoords = static_cast<GraphicsObjecte&>(*child).getData().texcoords;
+            std::fill(texcoords.begin(), texcoords.end(), 0.0F);
+        }
+        TextWriter stream;
+        object->save(stream);
+        records[object == &first ? 0 : 1].str(stream.takeText());
+    }
+    std::string a;
+    std::string b;
+    while (records[0] >> a) {
+        ASSERT_TRUE(records[1] >> b);
+        if (a != b) {
+            EXPECT_NEAR(std::strtof(a.c_str(), nullptr), std::strtof(b.c_str(), nullptr), 1e-4F)
+                << a << ' ' << b;
+        }
+    }
+    EXPECT_FALSE(records[1] >> b);
 }
 
 } // namespace
@@ -335,6 +365,7 @@ TEST_F(MapCompilerTest, TextureCoordinatesAreThoseOfTheEngine) {
 TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
     const std::string area = R"(,"x":0,"y":0,"width":50,"height":50)";
     const std::string crate = R"({"id":5,"name":"BOX","type":"Crate")" + area;
+    const std::string monster = R"({"id":6,"type":"Monster","point":true,"x":0,"y":0)";
     const std::string concave =
         R"("polygon":[{"x":0,"y":0},{"x":40,"y":0},{"x":40,"y":40},{"x":30,"y":10}])";
     const std::vector<std::pair<std::string, std::string>> cases{
@@ -386,6 +417,19 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
         {R"({"id":6,"type":"Water","x":0,"y":0,"width":20,"height":50})", "wider than 20 units"},
         {R"({"id":6,"type":"Water","rotation":5)" + area + "}", "a rectangle that is not turned"},
         {R"({"id":6,"type":"Water")" + area + with({{"group", "a"}}) + "}", "part of a group"},
+        {monster + with({{"state", "angry"}}) + "}", "must be hunter, patrol or puppet"},
+        {monster + with({{"bite", 0}}) + "}", "\"bite\" must be above 0"},
+        {monster + with({{"armor", 101}}) + "}", "\"armor\" is too large"},
+        {monster + with({{"speed", -1}}) + "}", "\"speed\" must not be below 0"},
+        {monster + with({{"health", -1}}) + "}", "\"health\" must not be below 0"},
+        {monster + with({{"parallax", 0.5}}) + "}", "parallax of 1"},
+        {monster + with({{"group", "a"}}) + "}", "part of a group"},
+        {monster + with({{"way", 77}}) + "}", "object 77, which is no object of class Way"},
+        {monster + with({{"way", 7}}) + R"(},{"id":7,"type":"Way")" + area + "}",
+         "a Way is drawn as a line"},
+        {R"({"id":6,"type":"Monster")" + area + "}", "drawn as a point"},
+        {monster + R"(},{"id":7,"type":"Wall","x":5,"y":0,"width":50,"height":50})",
+         "object 6: stands in object 7"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"sheetColumns", 4}, {"sheetRows", 2}}) + "}",
          "as many rows as columns"},
     };
@@ -533,18 +577,60 @@ TEST_F(MapCompilerTest, ARopeHangsInLinksFromTheBodyThatItBeginsIn) {
                 HasSubstr("too long"));
 }
 
+TEST_F(MapCompilerTest, AMonsterIsThatOfTheEngineAndWalksTheWayThatItIsGiven) {
+    const std::string way =
+        R"(,{"id":2,"type":"Way","x":50,"y":100,"polyline":[{"x":0,"y":0},{"x":90,"y":-40}]})";
+    const SceneBundle bundle =
+        load(mapOf(R"({"id":1,"type":"Monster","point":true,"x":0,"y":100},)"
+                   R"({"id":3,"name":"IT","type":"Monster","point":true,"x":-60,"y":80)" +
+                   with({{"state", "patrol"},
+                         {"eyesLit", true},
+                         {"way", 2},
+                         {"speed", 120},
+                         {"bite", 12.5},
+                         {"armor", 30},
+                         {"health", 7},
+                         {"script", "KNOWN"}}) +
+                   "}" + way));
+    ASSERT_EQ(bundle.objects.size(), 3U) << "a way is nothing by itself";
+
+    EvilPlayer made;
+    expectSameRecord(*bundle.objects[0], made);
+    delete made.graphicsObject;
+    delete made.physicsObject;
+
+    EvilPlayer& told = *EvilPlayer::of(bundle.objects[1]);
+    EXPECT_EQ(told.state, EvilState::patrol);
+    EXPECT_EQ(bodyOf(bundle, 1).getWorldTransform().getOrigin(), btVector3(-60, 20, 0));
+    EXPECT_EQ(told.statistics.speed, 120.0F);
+    EXPECT_EQ(told.statistics.bite, 12.5F);
+    EXPECT_EQ(told.statistics.armor, 30.0F);
+    EXPECT_EQ(told.statistics.health, 7);
+    EXPECT_TRUE(told.hasName("IT"));
+    EXPECT_EQ(told.findAddition(AdditionType::health), nullptr);
+    ASSERT_EQ(told.waypoints.size(), 2U);
+    EXPECT_EQ(told.waypoints[1].x, 140.0F);
+    EXPECT_GT(told.waypoints[1].y, 40.0F) << "over the line that is drawn on the floor";
+    EXPECT_LT(told.waypoints[1].y, 50.0F) << "and under the centre of who walks there";
+    ASSERT_EQ(told.additions.size(), 6U);
+    told.dimEyes();
+    EXPECT_EQ(told.additions.size(), 4U) << "its eyes were found in front of the rest";
+}
+
 TEST_F(MapCompilerTest, TheEditorOffersEveryClassWithTheValuesItHas) {
     const auto project = nlohmann::json::parse(readFile(TOLMERE_CONTENT "/tolmere.tiled-project"));
     for (const mapc::ObjectClass& row : mapc::objectClasses()) {
+        bool offered = false;
         std::map<std::string, nlohmann::json> members;
         for (const auto& type : project["propertyTypes"]) {
             if (type["name"] == row.name) {
+                offered = true;
                 for (const auto& member : type["members"]) {
                     members[member["name"]] = member["value"];
                 }
             }
         }
-        ASSERT_FALSE(members.empty()) << row.name;
+        ASSERT_TRUE(offered) << row.name;
         const auto expectSame = [&](const char* name, const nlohmann::json& value) {
             if (members.contains(name)) {
                 EXPECT_EQ(value, members[name]) << row.name << " " << name;
@@ -553,9 +639,14 @@ TEST_F(MapCompilerTest, TheEditorOffersEveryClassWithTheValuesItHas) {
         expectSame("texture", row.texture);
         expectSame("texcoordMode", static_cast<int>(row.texcoordMode));
         expectSame("z", std::round(row.z * 1000.0) / 1000.0);
-        for (const char* behaviour : {"health", "damage", "damageThreshold", "forcePower"}) {
+        for (const char* behaviour : {"damage", "damageThreshold", "forcePower"}) {
             expectSame(behaviour, 0);
         }
+        const bool isMonster = row.role == mapc::Role::monster;
+        expectSame("health", isMonster ? PlayerStatistics().health : 0);
+        expectSame("speed", isMonster ? PlayerStatistics().speed : 0.0F);
+        expectSame("jump", PlayerStatistics().jump);
+        expectSame("bite", PlayerStatistics().bite);
         expectSame("dialog", "");
         expectSame("dialogOnce", false);
         expectSame("dialogLocked", false);

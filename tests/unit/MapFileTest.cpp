@@ -40,6 +40,11 @@ const std::string passable = "17 0.5 0 0 10 2 100 50 1 0 0 1 0 0 0 1 0.7 ";
 const std::string noBody = "00000000 ";
 const std::string statistics = "250 10 160 100 100 0 25 87 ";
 
+const std::string eye = "16 2.5 1 1 1 0 0 5 5 5 5 unknown ";
+/// With open eyes, on its way to the second of two points.
+const std::string monster =
+    "5 " + group + swimmer + "3 " + eye + eye + "23 " + statistics + "1 1 2 10 -20.5 30 40 1 ";
+
 const std::string worldHinge = "4 3 5 5 -0.5 0.5 1 2 30 -1 ";
 const std::string hinge = "4 3 0 0 1 -1 0 4 0 10 ";
 const std::string spring = "9 4 1 2 -0.25 0.25 1 3 4 5 6 7 -8 -9 8 9 1 1 2 3 4 1 0.5 0.25 0.125 ";
@@ -64,7 +69,7 @@ std::string chainRecord() {
 
 /// A map with every kind of graphics, shape, class and joint, and a chain of every word.
 std::string everyRecord() {
-    return "11 0 " + placed + noBody + "1 2 30 " +      // 0: scenery with hit points
+    return "12 0 " + placed + noBody + "1 2 30 " +      // 0: scenery with hit points
            "-1 " + group + noBody + "0 " +              // 1
            "0 " + mesh + box + "1 " + chainRecord() +   // 2
            "0 " + animated + disc + "0 " +              // 3
@@ -75,6 +80,7 @@ std::string everyRecord() {
            "4 " + fourParts + swimmer + "1 23 " + statistics + "412 " + // 8: the protagonist
            "0 5 " + water + sprite + passable + "1 17 3.5 " +           // 9
            "0 6 " + water + "0 " + passable + "1 17 0 " +               // 10: still
+           monster +                                                    // 11
            "4 " + worldHinge + hinge + spring + worldSpring + "0.1 0.2 0.3 0  ";
 }
 
@@ -130,7 +136,7 @@ protected:
 
 TEST_F(MapFileTest, EveryRecordComesBackAsItWas) {
     sceneManager().addScene(parse(everyRecord()));
-    ASSERT_EQ(sceneManager().objects.size(), 11U);
+    ASSERT_EQ(sceneManager().objects.size(), 12U);
     ASSERT_EQ(physicsModule().getJoints().size(), 4U);
     EXPECT_EQ(save(), everyRecord());
 
@@ -205,6 +211,13 @@ TEST_F(MapFileTest, RecordsThatCannotBelongTogetherAreRefused) {
     EXPECT_NE(failureOf("1 4 " + fourParts + swimmer + "0 " + statistics + "-1 0 " + end), "");
     EXPECT_NE(failureOf("1 4 " + group + swimmer + "0 " + statistics + "0 0 " + end), "");
     EXPECT_NE(failureOf("1 4 " + bound + swimmer + "0 " + statistics + "0 0 " + end), "");
+    const std::string evil = "1 5 " + group + swimmer + "0 " + statistics;
+    EXPECT_EQ(failureOf(evil + "0 0 0 0 0 " + end), "");
+    EXPECT_EQ(failureOf(evil + "0 7 1 0 0 99 0 " + end), ""); // runs as a puppet, on a cut ring
+    EXPECT_NE(failureOf(evil + "0 1 4000000000 0 0 0 0 " + end), "");
+    EXPECT_NE(failureOf(evil + "0 1 -1 0 0 0 0 " + end), "");
+    EXPECT_NE(failureOf(evil + "2 1 0 0 0 " + end), "");
+    EXPECT_NE(failureOf("1 5 " + placed + noBody + "0 " + statistics + "0 1 0 0 0 " + end), "");
     EXPECT_NE(failureOf("1 6 " + bound + disc + "0 0 " + end), ""); // no such class
     EXPECT_EQ(failureOf("1 " + body + "1 7 " + end), "");           // no such joint: none
 }

@@ -3,6 +3,8 @@
 #include "Geometry.h"
 #include "TiledMap.h"
 
+#include "sceneManager/PlayerStatistics.h"
+
 #include <optional>
 #include <string>
 #include <variant>
@@ -115,6 +117,14 @@ struct Emitter {
 /// What makes a box a body of water.
 enum class Surface { still, waves };
 
+/// What makes a disc a monster.
+struct Monster {
+    PlayerStatistics statistics;
+    int state = 1; ///< The engine's `EvilState`.
+    bool eyesLit = false;
+    std::vector<Point> waypoints; ///< Of its centre, in the world; walked in a ring.
+};
+
 /// A scene object to be.
 struct LevelObject {
     int id = 0;
@@ -131,6 +141,7 @@ struct LevelObject {
     std::optional<Dialog> dialog;
     std::vector<Light> lights;
     std::vector<Emitter> emitters;
+    std::optional<Monster> monster;
 };
 
 constexpr int worldIndex = -1; ///< In place of an object: the joint's other side is the world.

@@ -3,6 +3,7 @@
 #include "EmitterRecord.h"
 #include "JointBuilder.h"
 #include "LightRecord.h"
+#include "MonsterRecord.h"
 #include "ObjectAdditions.h"
 #include "ObjectClass.h"
 #include "RopeBuilder.h"
@@ -115,6 +116,25 @@ private:
     }
 
     void addObject(const TiledObject& object, const ObjectClass& objectClass) {
+        if (objectClass.role == Role::way) {
+            readWay(object, placement); // complains; the monsters on it read it for themselves
+        } else if (objectClass.role == Role::monster) {
+            addMonster(object, objectClass);
+        } else {
+            addShape(object, objectClass);
+        }
+    }
+
+    void addMonster(const TiledObject& source, const ObjectClass& objectClass) {
+        if (!groupOf(source).empty()) {
+            throw std::string("a Monster cannot be part of a group");
+        }
+        LevelObject monster = readMonster(source, objectClass, placement, map);
+        partOwners[source.id] = level.objects.size();
+        level.objects.push_back(std::move(monster));
+    }
+
+    void addShape(const TiledObject& object, const ObjectClass& objectClass) {
         const Part part = buildPart(object, objectClass);
         const std::string group = groupOf(object);
         if (objectClass.role == Role::water) {

@@ -2,6 +2,7 @@
 
 #include "EmitterRecord.h"
 #include "LightRecord.h"
+#include "MonsterRecord.h"
 #include "RecordWriters.h"
 
 #include "sceneManager/SceneObject.h"
@@ -20,6 +21,9 @@ int typeCode(const LevelObject& object) {
     if (object.force.has_value()) {
         return sceneObjectType::forcefield;
     }
+    if (object.monster.has_value()) {
+        return sceneObjectType::evilPlayer;
+    }
     return object.body.has_value() ? sceneObjectType::plain : sceneObjectType::withoutPhysics;
 }
 
@@ -31,8 +35,15 @@ void writeDialog(TextWriter& stream, const Dialog& dialog) {
     }
 }
 
+std::string lightRecord(const Light& light) {
+    TextWriter stream;
+    stream << static_cast<int>(AdditionType::light);
+    writeLight(stream, light);
+    return stream.takeText();
+}
+
 /// Each as the text of its record.
-std::vector<std::string> additionsOf(const LevelObject& object) {
+std::vector<std::string> ownAdditionsOf(const LevelObject& object) {
     std::vector<std::string> records;
     const auto record = [&records](AdditionType type, auto writeFields) {
         TextWriter stream;
@@ -56,9 +67,7 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
     if (object.forcePower.has_value()) {
         record(AdditionType::forcefield, [&](TextWriter& stream) { stream << *object.forcePower; });
     }
-    for (const Light& light : object.lights) {
-        record(AdditionType::light, [&](TextWriter& stream) { writeLight(stream, light); });
-    }
+    std::ranges::transform(object.lights, std::back_inserter(records), lightRecord);
     for (const Emitter& emitter : object.emitters) {
         record(AdditionType::particleEmiter,
                [&](TextWriter& stream) { writeEmitter(stream, emitter); });
@@ -73,10 +82,21 @@ std::vector<std::string> additionsOf(const LevelObject& object) {
     return records;
 }
 
+/// With those that the kind of object brings.
+std::vector<std::string> additionsOf(const LevelObject& object) {
+    std::vector<std::string> records = ownAdditionsOf(object);
+    if (object.monster.has_value()) {
+        const std::vector<Light> eyes = eyeLights(*object.monster);
+        std::ranges::transform(eyes, std::inserter(records, records.begin()), lightRecord);
+        std::ranges::copy(monsterAdditions(), std::back_inserter(records));
+    }
+    return records;
+}
+
 void writeObject(std::string& text, const LevelObject& object, TextureSizes& textures) {
     TextWriter head;
     head << typeCode(object);
-    writeGraphics(head, object, textures);
+    writeGraphics(head, object.monster.has_value() ? drawnMonster(object) : object, textures);
     if (object.body.has_value()) {
         writeBody(head, object);
     } else {
@@ -88,11 +108,14 @@ void writeObject(std::string& text, const LevelObject& object, TextureSizes& tex
     for (const std::string& addition : additions) {
         text += addition;
     }
+    TextWriter tail;
     if (object.force.has_value()) {
-        TextWriter tail;
         tail << object.force->x << object.force->y;
-        text += tail.text();
     }
+    if (object.monster.has_value()) {
+        writeMonster(tail, *object.monster);
+    }
+    text += tail.text();
 }
 
 } // namespace

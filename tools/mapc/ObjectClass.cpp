@@ -1,5 +1,7 @@
 #include "ObjectClass.h"
 
+#include "sceneManager/MonsterParts.h"
+
 #include <algorithm>
 #include <array>
 
@@ -26,6 +28,9 @@ constexpr auto classTable = std::to_array<ObjectClass>({
     {"Light", light, "light1.tga", 0.0F, bounds, 0.0F, 0.5F, 0.0F},
     {"Emitter", emitter, "particle8.tga", 0.8F, bounds, 0.0F, 0.5F, 0.0F},
     {"Rope", rope, "liana.tga", -0.35F, bounds, 2.0F, 0.0F, 0.0F},
+    {"Monster", monster, monsterLook::texture, monsterLook::depth, bounds, monsterLook::mass,
+     monsterLook::friction, monsterLook::bounce},
+    {"Way", way, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
     {"Hinge", hinge, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
     {"Slider", slider, invisible, 0.0F, bounds, 0.0F, 0.0F, 0.0F},
 });

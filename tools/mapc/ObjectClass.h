@@ -20,6 +20,8 @@ enum class Role {
     light,      ///< A light, on a body or at a place of its own.
     emitter,    ///< A source of particles, the same.
     rope,       ///< A chain of loose bodies.
+    monster,    ///< What hunts the protagonist.
+    way,        ///< A line that monsters walk along; nothing by itself.
     hinge,
     slider,
 };
