@@ -136,7 +136,7 @@ void floatingBodies(benchmark::State& state) {
         }
     }
     compare(
-        state, 2000, 1.5, [&pool] { pool.water->update(); },
+        state, 5000, 1.5, [&pool] { pool.water->update(); },
         [&pool] {
             for (const PhysicsObject* body : pool.bodies) {
                 liftBare(*body, 0.0F, 640.0F);

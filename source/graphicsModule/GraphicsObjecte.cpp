@@ -55,7 +55,7 @@ void GraphicsObjecte::drawShadow(LightAdd& light) {
     }
 }
 
-void GraphicsObjecte::drawShape(const GraphicsModule& module) const {
+Painter& GraphicsObjecte::beginPainting(const GraphicsModule& module) const {
     Painter& paint = painter();
     btTransform transform;
     getTransform(transform);
@@ -63,6 +63,11 @@ void GraphicsObjecte::drawShape(const GraphicsModule& module) const {
     module.camera->applyTransform(data.parallax);
     paint.multiply(transform);
     textureStore().bind(data.texture);
+    return paint;
+}
+
+void GraphicsObjecte::drawShape(const GraphicsModule& module) const {
+    Painter& paint = beginPainting(module);
     Tint tint;
     if (getZ() > 1.0F && !ignoreAmbient) {
         // What lies over the light map is darkened with the room here.

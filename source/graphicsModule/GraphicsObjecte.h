@@ -5,6 +5,7 @@
 #include "ShadowOutline.h"
 
 class GraphicsModule;
+class Painter;
 struct ShapeArrays;
 
 /// One convex polygon with a colour and a texture coordinate at each vertex. Subclasses say where
@@ -49,6 +50,9 @@ public:
     int castsShadow = 1;
 
 protected:
+    /// Gives the painter the object's place, under the camera, and its texture. To be ended with
+    /// `popTransform`.
+    Painter& beginPainting(const GraphicsModule& module) const;
     /// The polygon as the painter takes it: borrowed, nothing is copied.
     ShapeArrays arrays() const;
     /// The end of a record, as `readLook` reads it.

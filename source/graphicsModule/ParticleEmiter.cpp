@@ -11,16 +11,17 @@
 
 #include <BulletCollision/CollisionShapes/btConvex2dShape.h>
 #include <BulletDynamics/Dynamics/btRigidBody.h>
-#include <LinearMath/btTransformUtil.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
 constexpr float fullTurn = 6.2831855F;
 constexpr float diagonal = 1.42F; // circle round a square, over half its side
 
-/// An emitter that holds so many takes no more: nobody sees the next one, and a step must end
-/// whatever rate a map or impulse a crash asks for.
-constexpr std::size_t mostParticles = 20'000;
+/// Beyond it the turn of a tick is cut, as it is for bodies. Radians.
+constexpr float mostTurn = 0.7853982F;
 
 const btVector3 zAxis(0.0F, 0.0F, 1.0F);
 
@@ -46,22 +47,37 @@ btVector3 drawPlace(const btRigidBody& body) {
 }
 
 bool isSeen(const Particle& particle, const Bounds& view) {
-    const btVector3& place = particle.transform.getOrigin();
+    const auto [x, y] = particle.transform.origin;
     const float r = particle.size * diagonal;
-    return Bounds{place.x() - r, place.y() - r, place.x() + r, place.y() + r}.overlaps(view);
+    return std::isfinite(r) && Bounds{x - r, y - r, x + r, y + r}.overlaps(view);
+}
+
+/// A step of flight and of turning. Rounding would make the turn grow or shrink in time: its length
+/// is brought back to 1 by the first term of the inverse root's series.
+void fly(Particle& particle, Particle::Vector gravity, float dt) {
+    auto& [turn, origin] = particle.transform;
+    particle.velocity.x += gravity.x;
+    particle.velocity.y += gravity.y;
+    origin.x += particle.velocity.x * dt;
+    origin.y += particle.velocity.y * dt;
+    const Yaw by = particle.tickTurn;
+    const Yaw turned{turn.cosine * by.cosine - turn.sine * by.sine,
+                     turn.sine * by.cosine + turn.cosine * by.sine};
+    const float mend = 1.5F - 0.5F * (turned.cosine * turned.cosine + turned.sine * turned.sine);
+    turn = {turned.cosine * mend, turned.sine * mend};
 }
 
 void paintParticle(const Particle& particle) {
-    const btMatrix3x3& basis = particle.transform.getBasis();
-    const btVector3& p = particle.transform.getOrigin();
+    const auto& [turn, p] = particle.transform;
     const float s = particle.size;
-    const float x1 = s * (basis[0][0] + basis[0][1]);
-    const float y1 = s * (basis[1][0] + basis[1][1]);
-    const float x2 = s * (basis[0][0] - basis[0][1]);
-    const float y2 = s * (basis[1][0] - basis[1][1]);
+    // The corners lie as far from the middle as the two diagonals reach, turned with it.
+    const float x1 = s * (turn.cosine - turn.sine);
+    const float y1 = s * (turn.sine + turn.cosine);
+    const float x2 = y1;
+    const float y2 = -x1;
     const auto& [r, g, b, a] = particle.colour;
-    const float positions[] = {p.x() - x1, p.y() - y1, p.x() - x2, p.y() - y2,
-                               p.x() + x1, p.y() + y1, p.x() + x2, p.y() + y2};
+    const float positions[] = {p.x - x1, p.y - y1, p.x - x2, p.y - y2,
+                               p.x + x1, p.y + y1, p.x + x2, p.y + y2};
     const float colours[] = {r, g, b, a, r, g, b, a, r, g, b, a, r, g, b, a};
     static constexpr float texcoords[] = {0.0F, 0.0F, 0.0F, 1.0F, 1.0F, 1.0F, 1.0F, 0.0F};
     painter().polygon({positions, texcoords, colours, 4});
@@ -112,26 +128,35 @@ void ParticleEmiter::update(SceneObject* owner) {
         emitFrom(*owner);
         accumulator -= 1.0F;
     }
-    if (accumulator >= 1.0F) {
-        accumulator = 0.0F; // what had no room is not owed
+    if (!(accumulator < 1.0F)) {
+        accumulator = 0.0F; // what had no room is not owed, nor is what is no number
     }
 }
 
 void ParticleEmiter::updateParticles() {
     const auto dt = static_cast<float>(physicsModule().period);
-    std::erase_if(particles, [](const Particle& particle) { return particle.life <= 0.0F; });
-    for (Particle& particle : particles) {
-        particle.velocity += btVector3(params.gravityX, params.gravityY, 0.0F);
-        btTransformUtil::integrateTransform(particle.transform, particle.velocity,
-                                            zAxis * particle.angularSpeed, dt, particle.transform);
-        if (params.fade > particle.life) {
-            for (std::size_t i = 0; i < colourStep.size(); ++i) {
-                particle.colour[i] -= colourStep[i];
-            }
-            particle.size -= sizeStep;
+    const Particle::Vector gravity{params.gravityX, params.gravityY};
+    const float fade = params.fade;
+    const std::array<float, 4> fading = colourStep;
+    // The living close up over the dead in the same pass that moves them: it is the fetching of
+    // them that costs.
+    Particle* end = particles.data();
+    for (const Particle& particle : particles) {
+        if (!(particle.life > 0.0F)) {
+            continue;
         }
-        particle.life -= 1.0F;
+        Particle& now = *end++;
+        now = particle;
+        fly(now, gravity, dt);
+        if (fade > now.life) {
+            for (std::size_t i = 0; i < fading.size(); ++i) {
+                now.colour[i] -= fading[i];
+            }
+            now.size -= sizeStep;
+        }
+        now.life -= 1.0F;
     }
+    particles.resize(static_cast<std::size_t>(end - particles.data()));
 }
 
 // The order of the random draws in the next three is part of what a replayed run relies on.
@@ -172,11 +197,19 @@ void ParticleEmiter::burstWithVelocity(const btVector3& position, const btVector
 
 void ParticleEmiter::addParticle(const btVector3& position, const btVector3& velocity,
                                  float angularSpeed) {
-    if (particles.size() >= mostParticles) {
+    const bool isPlace =
+        std::isfinite(position.x() + position.y() + velocity.x() + velocity.y() + angularSpeed);
+    if (particles.size() >= mostParticles || !isPlace) {
         return;
     }
-    particles.push_back({btTransform(btMatrix3x3::getIdentity(), position), velocity, angularSpeed,
-                         params.life, params.colour, params.size});
+    const auto dt = static_cast<float>(physicsModule().period);
+    const float turn = std::clamp(angularSpeed * dt, -mostTurn, mostTurn);
+    particles.push_back({{{1.0F, 0.0F}, {position.x(), position.y()}},
+                         {velocity.x(), velocity.y()},
+                         {std::cos(turn), std::sin(turn)},
+                         params.life,
+                         params.size,
+                         params.colour});
 }
 
 void ParticleEmiter::draw() {

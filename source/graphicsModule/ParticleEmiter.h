@@ -2,28 +2,44 @@
 
 #include "GraphicsObject.h"
 #include "ParticleParams.h"
+#include "Yaw.h"
 #include "sceneManager/So_Addons/So_Addition.h"
 
+#include <array>
+#include <cstddef>
 #include <vector>
 
-/// A textured, spinning square that flies, fades and dies.
+/// A textured, spinning square that flies, fades and dies. It stays in the plane, where a place and
+/// a turn are two numbers each.
 struct Particle {
-    btTransform transform; ///< Basis is the turn, origin the place in the world.
-    btVector3 velocity;    ///< World units a second.
-    float angularSpeed;    ///< Radians a second about z.
-    float life;            ///< Ticks left.
+    struct Vector {
+        float x, y;
+    };
+    struct Transform {
+        Yaw turn;
+        Vector origin; ///< World units.
+    };
+
+    Transform transform;
+    Vector velocity; ///< World units a second.
+    Yaw tickTurn;    ///< By which it turns in a tick.
+    float life;      ///< Ticks left.
+    float size;      ///< Half the side, world units.
     std::array<float, 4> colour;
-    float size; ///< Half the side, world units.
 };
 
 /// A pool of particles. On a scene object it sprays from the object's body at a steady rate, and
 /// the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of
 /// `GraphicsModule` from construction to destruction without being owned there, unless it is a part
-/// of one of them.
+/// of one of them. All its particles reach the device in one draw.
 class ParticleEmiter : public So_Addition, public GraphicsObject {
 public:
     /// Who calls `draw`: the frame, or an object of the frame that the emitter is a part of.
     enum class DrawnBy { frame, holder };
+
+    /// An emitter that holds so many takes no more: nobody sees the next one, and a step must end
+    /// whatever rate a map, or impulse a crash, asks for.
+    static constexpr std::size_t mostParticles = 20'000;
 
     explicit ParticleEmiter(const ParticleParams& look, DrawnBy drawer = DrawnBy::frame);
     ~ParticleEmiter() override;
@@ -44,6 +60,7 @@ public:
     /// One particle. `spreadFactor`, 0 to 1, is the share of the velocity that is left to chance.
     void burstWithVelocity(const btVector3& position, const btVector3& velocity,
                            float spreadFactor);
+    /// Angular speed in radians a second. Numbers that are none make no particle.
     void addParticle(const btVector3& position, const btVector3& velocity, float angularSpeed);
 
     const std::vector<Particle>& getParticles() const { return particles; }

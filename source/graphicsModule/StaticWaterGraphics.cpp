@@ -5,7 +5,6 @@
 #include "LightAdd.h"
 #include "Painter.h"
 #include "TextStream.h"
-#include "TextureStore.h"
 
 #include <algorithm>
 #include <cmath>
@@ -140,13 +139,7 @@ void StaticWaterGraphics::drawStrip() const {
     if (!worldBounds.overlaps(module.getView())) {
         return;
     }
-    Painter& paint = painter();
-    btTransform transform;
-    getTransform(transform);
-    paint.pushTransform();
-    module.camera->applyTransform(data.parallax);
-    paint.multiply(transform);
-    textureStore().bind(data.texture);
+    Painter& paint = beginPainting(module);
     if (outlined) {
         paint.setWireframe(true);
     }

@@ -1,9 +1,7 @@
 #include "TriangleMesh.h"
 
-#include "Camera.h"
 #include "GraphicsModule.h"
 #include "Painter.h"
-#include "TextureStore.h"
 
 TriangleMesh::TriangleMesh(const GraphicsObjectData& shape)
     : PhysicsGraphicsObject(shape, nullptr) {
@@ -13,13 +11,7 @@ TriangleMesh::TriangleMesh(const GraphicsObjectData& shape)
 TriangleMesh::TriangleMesh(TextReader& stream) : TriangleMesh(readGraphicsObjectData(stream)) {}
 
 void TriangleMesh::draw() {
-    Painter& paint = painter();
-    btTransform transform;
-    getTransform(transform);
-    paint.pushTransform();
-    graphicsModule().camera->applyTransform(data.parallax);
-    paint.multiply(transform);
-    textureStore().bind(data.texture);
+    Painter& paint = beginPainting(graphicsModule());
     if (outlined) {
         paint.setWireframe(true);
     }

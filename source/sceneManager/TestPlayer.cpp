@@ -146,6 +146,7 @@ void TestPlayer::update() {
     feelPain();
     Player::update();
     hearLanding();
+    justArrived = false;
 }
 
 void TestPlayer::feelLight() {
@@ -167,7 +168,9 @@ void TestPlayer::feelLight() {
 }
 
 void TestPlayer::holdBreath() {
-    if (waterCount > 0) {
+    // Who comes from a save in a dive is in the water before the water knows.
+    const bool dives = justArrived && waterSteps > 0;
+    if (waterCount > 0 || dives) {
         soundManager().addFear(0.0F, dipIntoCalm);
         ++waterSteps;
     } else {

@@ -57,4 +57,5 @@ private:
 
     float lastHealth; // hit points at the end of the last step, to notice what a step took
     bool facingLeft;
+    bool justArrived = true; // has not been updated yet
 };

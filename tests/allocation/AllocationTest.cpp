@@ -3,6 +3,7 @@
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LightAdd.h"
+#include "graphicsModule/ParticleEmiter.h"
 #include "graphicsModule/WaterGraphics.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
@@ -74,7 +75,18 @@ LightProperties lampLight() {
     return look;
 }
 
-/// Crates and discs at rest on a floor, under a lamp, while a script counts a long delay.
+ParticleParams drizzle() {
+    ParticleParams look;
+    look.life = look.fade = 90.0F;
+    look.size = 5.0F;
+    look.gravityY = -3.0F;
+    look.spin = look.spread = 1.0F;
+    look.rate = 2.5F;
+    return look;
+}
+
+/// Crates and discs at rest on a floor, under a lamp that drizzles, while a script counts a long
+/// delay.
 void fillStillScene() {
     sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 0, -50, 900, 50)));
     for (int i = 0; i < 20; ++i) {
@@ -85,6 +97,7 @@ void fillStillScene() {
     }
     auto* lamp = new SceneObject(makeBoxParts(look(0.0F), 0, 300, 20, 20));
     lamp->addAddition(new LightAdd(lampLight()));
+    lamp->addAddition(new ParticleEmiter(drizzle()));
     sceneManager().addSceneObject(lamp);
     physicsModule().addScript(parseScript("DELAY 100000 X"));
 }

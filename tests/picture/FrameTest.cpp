@@ -4,6 +4,7 @@
 #include "graphicsModule/FreeCamera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/InterfaceGraphicsObject.h"
+#include "graphicsModule/ParticleEmiter.h"
 #include "graphicsModule/Text.h"
 #include "graphicsModule/TextureStore.h"
 #include "graphicsModule/TransformGraphicsObject.h"
@@ -166,6 +167,37 @@ TEST_F(FrameTest, WaterLiesOverWhatIsBehindItAndTakesTheLightOfItsSlice) {
     water->setZ(1.2F);
     draw();
     expectColour(centreX - 100.0F, centreY - 50.0F, 0.25F, 0.25F, 0.5F);
+}
+
+TEST_F(FrameTest, ParticlesAddOrCoverAndAreLitInTheSliceOfTheirDepth) {
+    graphicsModule().ambient = {0.5F, 0.5F, 1.0F};
+    addSquare(0.0F, 0.0F, 3000.0F, -0.5F, 0.5F, 0.0F, 0.5F);
+    struct Case {
+        float x, z;
+        int additive;
+        unsigned count;
+        Colour3 seen;
+    };
+    const Case cases[] = {{-300, 2, 1, 2, {0.65F, 0.4F, 0.5F}}, // shines in the dark, and adds up
+                          {-100, 0, 1, 1, {0.35F, 0.1F, 0.5F}},
+                          {100, 2, 0, 1, {0.225F, 0.1F, 0.25F}},
+                          {300, 0, 0, 1, {0.175F, 0.05F, 0.25F}}};
+    std::vector<std::unique_ptr<ParticleEmiter>> emitters;
+    for (const Case& c : cases) {
+        ParticleParams look;
+        look.size = 30.0F;
+        look.z = c.z;
+        look.life = 10.0F;
+        look.colour = {0.2F, 0.2F, 0.0F, 0.5F};
+        look.additive = c.additive;
+        emitters.push_back(std::make_unique<ParticleEmiter>(look));
+        emitters.back()->burst({c.x, 0.0F, 0.0F}, c.count);
+    }
+    draw();
+    for (const Case& c : cases) {
+        expectColour(centreX + c.x + 20.0F, centreY, c.seen[0], c.seen[1], c.seen[2]);
+        expectColour(centreX + c.x + 40.0F, centreY, 0.25F, 0.0F, 0.5F);
+    }
 }
 
 TEST_F(FrameTest, TextTakesItsLettersFromTheFont) {

@@ -7,6 +7,7 @@
 #include "graphicsModule/LightAdd.h"
 #include "graphicsModule/LightReaderAdd.h"
 #include "graphicsModule/Painter.h"
+#include "graphicsModule/StaticWaterGraphics.h"
 #include "graphicsModule/TextureStore.h"
 #include "graphicsModule/TransformGraphicsObject.h"
 #include "physicsModule/PhysicsObject.h"
@@ -17,6 +18,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -235,23 +237,40 @@ TEST_F(LightTest, AnOddPeriodShowsTheLampItselfOverWhatLiesBehindItsGlow) {
     }
 }
 
-TEST_F(LightTest, WhatShadesInItsOwnWayTakesItsShareOfTheLight) {
-    class Haze : public TransformGraphicsObject {
-    public:
-        using TransformGraphicsObject::TransformGraphicsObject;
-        void drawShadow(LightAdd&) override {
-            painter().rectangle(640.0F, 400.0F, 740.0F, 500.0F, 0.0F, 0.0F, 0.0F, 0.0F, 0.5F);
-        }
+TEST_F(LightTest, WaterLetsHalfTheLightThroughWithinItsArea) {
+    // As clear as glass: what is seen of it is what it does to the light.
+    const auto addWater = [](float bottom) {
+        auto* water =
+            new StaticWaterGraphics(50, bottom, 210, 100, -1, 0, 1, 2, 1.0F, 1.0F, 1.0F, 0.0F);
+        graphicsModule().addObject(water);
+        return water;
     };
-    graphicsModule().addObject(
-        new Haze(50.0F, 50.0F, makeBoxData(50, 50, -1, -1.4F, 1, 1, 1, 1, 1, 1)));
-    addLamp(0.0F, 0.0F, lightOf(300.0F, white, true));
+    addLamp(0.0F, 0.0F, lightOf(300.0F, {1.0F, 0.5F, 0.0F}, true));
+    StaticWaterGraphics* water = addWater(-100.0F);
     draw();
-    expectAt(50.0F, 50.0F, {0.5F, 0.5F, 0.5F});
-    expectAt(-50.0F, 50.0F, white);
+    const Colour3 lit{1.0F, 0.5F, 0.0F};
+    const Colour3 dimmed{0.5F, 0.25F, 0.0F};
+    for (const auto& [x, y, colour] : {std::tuple{30.0F, 0.0F, lit},
+                                       {70.0F, 0.0F, dimmed},
+                                       {180.0F, -90.0F, dimmed},
+                                       {180.0F, -110.0F, lit},
+                                       {250.0F, 0.0F, lit}}) { // it throws no shadow
+        expectAt(x, y, colour);
+    }
+    addWater(0.0F);
+    draw();
+    expectAt(100.0F, 50.0F, black); // where two overlap
+    expectAt(100.0F, -50.0F, dimmed);
+    water->setZ(-1.4F);
+    draw();
+    expectAt(100.0F, -50.0F, lit);
+    water->setZ(0.0F);
+    water->setCastsShadow(0);
+    draw();
+    expectAt(100.0F, -50.0F, lit);
 }
 
-TEST_F(LightTest, AReaderSeesWhatFallsOnItsObject) {
+TEST_F(LightTest, AReaderSeesWhatFallsOnItsObjectAndOffTheMapTheAmbientColour) {
     SceneObject* seen = addLamp(-100.0F, 50.0F, lightOf(0.0F, black, false));
     SceneObject* hidden = addLamp(200.0F, 0.0F, lightOf(0.0F, black, false));
     auto* inLight = new LightReaderAdd;
@@ -267,6 +286,14 @@ TEST_F(LightTest, AReaderSeesWhatFallsOnItsObject) {
     EXPECT_NEAR(inLight->green, 128, tolerance);
     EXPECT_EQ(inShadow->red, 0);
     EXPECT_TRUE(inShadow->onScreen);
+
+    seen->moveBy(5000.0F, 0.0F);
+    seen->physicsObject->updateRenderTransform();
+    graphicsModule().ambient = {0.5F, 0.25F, 1.0F};
+    draw();
+    EXPECT_FALSE(inLight->onScreen);
+    EXPECT_EQ(inLight->red, 127);
+    EXPECT_EQ(inLight->blue, 255);
 }
 
 TEST_F(LightTest, LightsThatMakeNoSenseHarmNothing) {

@@ -218,16 +218,4 @@ TEST_F(ChainRun, AScriptOfManyThousandWordsNeedsNoStack) {
     EXPECT_TRUE(static_cast<LockAdd*>(last)->locked);
 }
 
-TEST_F(ChainRun, AChainReadBackInMidDelayGoesOnWhereItWas) {
-    run("LOCK DELAY 300 A", 120);
-    TextWriter stream;
-    physicsModule().getGlobalScripts().front()->save(stream);
-    EXPECT_EQ(stream.text(), "9 1 1 10 300 180 1 3 1 A 0 ");
-    physicsModule().removeAllScripts();
-    TextReader reader(stream.text());
-    physicsModule().addScript(readAddition(reader));
-    step(300);
-    EXPECT_EQ(stepsOf("A"), Steps{300});
-}
-
 } // namespace

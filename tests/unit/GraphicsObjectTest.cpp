@@ -2,7 +2,6 @@
 
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
-#include "graphicsModule/Painter.h"
 #include "graphicsModule/TextureStore.h"
 #include "graphicsModule/TransformGraphicsObject.h"
 
@@ -30,18 +29,6 @@ protected:
     }
 
     int brick() const { return textureStore().find("brick.tga"); }
-
-    /// What drawing the object alone hands to the device, with the camera at the world's origin.
-    std::vector<RecordingDevice::Draw> drawsOf(GraphicsObject& object) {
-        object.updateBounds();
-        painter().flush();
-        device->forget();
-        device->keepsDraws = true;
-        device->keepsVertices = true;
-        object.draw();
-        painter().flush();
-        return device->draws;
-    }
 };
 
 GraphicsObjectData makeBox(float halfWidth, float halfHeight, float parallax = 1.0F) {
@@ -127,29 +114,6 @@ TEST_F(GraphicsObjectTest, AFlatPolygonAndAnUnknownTextureMapToFiniteCoordinates
     for (const float coordinate : object.getData().texcoords) {
         EXPECT_TRUE(std::isfinite(coordinate));
     }
-}
-
-TEST_F(GraphicsObjectTest, OnlyWhatLiesOverTheLightMapTakesTheAmbientTint) {
-    graphicsModule().ambient = {0.5F, 0.25F, 0.0F};
-    GraphicsObjectData data =
-        makeBoxData(10.0F, 5.0F, brick(), 1.0F, 1.0F, 1, 0.8F, 0.8F, 0.8F, 0.6F);
-    TransformGraphicsObject object(-30.0F, 20.0F, data);
-    const PaintVertex plain = drawsOf(object).at(0).vertices.at(0);
-    EXPECT_EQ(plain.x, 640.0F - 40.0F);
-    EXPECT_EQ(plain.y, 400.0F + 15.0F);
-    EXPECT_EQ(plain.z, 1.0F);
-    EXPECT_EQ(plain.g, 0.8F);
-
-    object.setZ(1.01F);
-    const RecordingDevice::Draw tinted = drawsOf(object).at(0);
-    EXPECT_EQ(tinted.state.texture, brick());
-    EXPECT_EQ(tinted.vertices.at(0).r, 0.4F);
-    EXPECT_EQ(tinted.vertices.at(0).g, 0.2F);
-    EXPECT_EQ(tinted.vertices.at(0).b, 0.0F);
-    EXPECT_EQ(tinted.vertices.at(0).a, 0.6F);
-
-    object.ignoreAmbient = true;
-    EXPECT_EQ(drawsOf(object).at(0).vertices.at(0).g, 0.8F);
 }
 
 } // namespace

@@ -2,22 +2,21 @@
 
 #include "PhysicsBodies.h"
 #include "Random.h"
-#include "TextStream.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LightAdd.h"
-#include "graphicsModule/LightReaderAdd.h"
+#include "graphicsModule/Painter.h"
 #include "graphicsModule/ParticleEmiter.h"
+
+#include <cmath>
+#include <limits>
 
 namespace {
 
+constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float endless = std::numeric_limits<float>::infinity();
+
 class LightAndParticleTest : public EngineFixture {
 protected:
-    static std::string saved(const So_Addition& addition) {
-        TextWriter writer;
-        addition.save(writer);
-        return writer.takeText();
-    }
-
     static LightAdd* addLight(SceneObject* owner, int period) {
         LightProperties look;
         look.size = 10.0F;
@@ -46,26 +45,17 @@ protected:
         params.speed = 60.0F;
         return params;
     }
+
+    /// What drawing the emitter hands to the device, in view of the world's origin.
+    std::vector<PaintVertex> verticesOf(ParticleEmiter& emitter) {
+        graphicsModule().update();
+        device->forget();
+        device->keepsDraws = device->keepsVertices = true;
+        emitter.draw();
+        painter().flush();
+        return device->draws.empty() ? std::vector<PaintVertex>() : device->draws[0].vertices;
+    }
 };
-
-TEST_F(LightAndParticleTest, RecordsReadBackToTheSameText) {
-    const std::string light = "16 100 1 0.5 0.25 3 1 4 5 6 7 unknown ";
-    TextReader lightReader(light);
-    lightReader.read<int>();
-    const std::unique_ptr<So_Addition> lamp(LightAdd::read(lightReader));
-    EXPECT_EQ(saved(*lamp), light);
-
-    const std::string emitter = "14 1 2 unknown 3 0.1 0.2 0.3 0.4 5 6 0.5 0.6 0.7 0.8 7 8 9 10 11 "
-                                "0.5 1 ";
-    TextReader emitterReader(emitter);
-    emitterReader.read<int>();
-    const std::unique_ptr<So_Addition> spray(ParticleEmiter::read(emitterReader));
-    EXPECT_EQ(saved(*spray), emitter);
-
-    TextReader nothing("");
-    const std::unique_ptr<So_Addition> eye(LightReaderAdd::read(nothing));
-    EXPECT_EQ(saved(*eye), "23 ");
-}
 
 TEST_F(LightAndParticleTest, FlickerGlidesFromOneRandomStrengthToTheNext) {
     SceneObject* owner = addBox(100, 50, 10, 10, 0);
@@ -116,46 +106,99 @@ TEST_F(LightAndParticleTest, PeriodsThatHoldNoCycleAreSteadyAndTheShortestJumps)
     }
 }
 
-TEST_F(LightAndParticleTest, AReaderSamplesTheMapOrFallsBackToTheAmbientColour) {
-    auto* reader = new LightReaderAdd;
-    SceneObject* object = addBox(0, 0, 10, 10, 0);
-    object->addAddition(reader);
-    graphicsModule().ambient = {0.5F, 0.25F, 1.0F};
-    device->pixel = {10, 20, 30};
-    graphicsModule().update();
-    EXPECT_EQ(reader->red, 0) << "nothing is known before the first step";
-
-    reader->update(object);
-    graphicsModule().update();
-    EXPECT_TRUE(reader->onScreen);
-    EXPECT_EQ(reader->red, 10);
-    EXPECT_EQ(reader->blue, 30);
-
-    object->moveBy(5000.0F, 0.0F);
-    object->physicsObject->updateRenderTransform();
-    graphicsModule().update();
-    EXPECT_FALSE(reader->onScreen);
-    EXPECT_EQ(reader->red, 127);
-    EXPECT_EQ(reader->green, 63);
-    EXPECT_EQ(reader->blue, 255);
-}
-
 TEST_F(LightAndParticleTest, AParticleLivesItsTicksAndChangesInTheLastOnes) {
     ParticleParams params = shortLived(2.0F, 0.0F);
     params.endSize = 2.0F;
+    params.gravityX = 60.0F;
     ParticleEmiter emitter(params);
     emitter.burst({0.0F, 0.0F, 0.0F}, 0);
     EXPECT_TRUE(emitter.getParticles().empty());
-    emitter.addParticle({0.0F, 0.0F, 0.0F}, {60.0F, 0.0F, 0.0F}, 0.0F);
-
+    const float turning = 6.0F; // radians a second, so that a tick has a tenth
+    emitter.addParticle({0.0F, 0.0F, 0.0F}, {60.0F, 0.0F, 0.0F}, turning);
+    const Particle& particle = emitter.getParticles().at(0);
     emitter.updateParticles();
-    ASSERT_EQ(emitter.getParticles().size(), 1U);
-    EXPECT_NEAR(emitter.getParticles()[0].transform.getOrigin().x(), 1.0F, 1e-4F);
-    EXPECT_FLOAT_EQ(emitter.getParticles()[0].size, 4.0F) << "the test of the fade is strict";
+    EXPECT_NEAR(particle.transform.origin.x, 2.0F, 1e-4F);
+    EXPECT_FLOAT_EQ(particle.size, 4.0F) << "the test of the fade is strict";
     emitter.updateParticles();
-    EXPECT_FLOAT_EQ(emitter.getParticles()[0].size, 3.0F);
+    EXPECT_FLOAT_EQ(particle.size, 3.0F);
     emitter.updateParticles();
     EXPECT_TRUE(emitter.getParticles().empty());
+
+    for (const float life : {1e5F, 0.5F, 0.0F, -1.0F, notANumber}) {
+        emitter.params.life = life;
+        emitter.addParticle({0.0F, 0.0F, 0.0F}, {0.0F, 0.0F, 0.0F}, turning);
+    }
+    emitter.updateParticles();
+    EXPECT_EQ(emitter.getParticles().size(), 2U);
+    for (int i = 1; i < 6283; ++i) { // a hundred turns
+        emitter.updateParticles();
+    }
+    ASSERT_EQ(emitter.getParticles().size(), 1U);
+    const Yaw turn = emitter.getParticles()[0].transform.turn;
+    EXPECT_NEAR(std::hypot(turn.cosine, turn.sine), 1.0F, 1e-4F);
+    EXPECT_NEAR(turn.cosine, 1.0F, 0.01F);
+}
+
+TEST_F(LightAndParticleTest, AnEmitterSpraysAtItsRateFromWithinItsBodyAlongTheBodysUp) {
+    SceneObject* disc = addToScene(createSphere(500, 0, 20, 0, 0, 0));
+    SceneObject* plank = addBox(500, 0, 100, 5, 0);
+    plank->physicsObject->body->getWorldTransform().setRotation({{0, 0, 1}, SIMD_HALF_PI});
+    struct Case {
+        SceneObject* owner;
+        float rate;
+        std::array<std::size_t, 4> counts;
+        float halfWidth, halfHeight;
+    };
+    for (const Case& c :
+         {Case{disc, 0.5F, {0, 1, 1, 2}, 20, 20}, {plank, 2.5F, {2, 5, 7, 10}, 5, 100}}) {
+        ParticleEmiter emitter(shortLived(1e6F, c.rate));
+        emitter.randomSpeed = c.owner == plank;
+        for (const std::size_t count : c.counts) {
+            emitter.update(c.owner);
+            EXPECT_EQ(emitter.getParticles().size(), count);
+        }
+        for (const Particle& particle : emitter.getParticles()) { // at most 3 units on its way
+            EXPECT_LE(std::abs(particle.transform.origin.x - 500.0F), c.halfWidth + 3.1F);
+            EXPECT_LE(std::abs(particle.transform.origin.y), c.halfHeight + 3.1F);
+            EXPECT_GE(c.owner == plank ? -particle.velocity.x : particle.velocity.y, 29.9F);
+        }
+    }
+}
+
+TEST_F(LightAndParticleTest, EmittersThatMakeNoSenseNeitherHangNorPaintWhatIsNoNumber) {
+    SceneObject* owner = addBox(0, 0, 10, 10, 0);
+    float ParticleParams::*const fields[] = {
+        &ParticleParams::rate,     &ParticleParams::life,    &ParticleParams::fade,
+        &ParticleParams::size,     &ParticleParams::endSize, &ParticleParams::speed,
+        &ParticleParams::gravityX, &ParticleParams::spin,    &ParticleParams::spread};
+    for (float ParticleParams::*const field : fields) {
+        for (const float value : {0.0F, -1.0F, 1e9F, 3e38F, 1e-30F, notANumber, endless}) {
+            ParticleParams params = shortLived(5.0F, 3.0F);
+            params.*field = value;
+            ParticleEmiter emitter(params);
+            for (int i = 0; i < 3; ++i) {
+                emitter.update(owner);
+            }
+            ASSERT_LE(emitter.getParticles().size(), ParticleEmiter::mostParticles);
+            for (const PaintVertex& vertex : verticesOf(emitter)) {
+                ASSERT_TRUE(std::isfinite(vertex.x + vertex.y)) << value;
+            }
+            emitter.setParams(shortLived(5.0F, 1.0F)); // a sound look makes it sound again
+            for (int i = 0; i < 9; ++i) {
+                emitter.update(owner);
+            }
+            EXPECT_GE(emitter.getParticles().size(), 5U) << value;
+        }
+    }
+}
+
+TEST_F(LightAndParticleTest, AllParticlesOfAnEmitterAreOneArray) {
+    ParticleParams params = shortLived(5.0F, 0.0F);
+    params.additive = 1;
+    ParticleEmiter emitter(params);
+    emitter.burst({0.0F, 0.0F, 0.0F}, ~0U);
+    EXPECT_EQ(verticesOf(emitter).size(), 4 * ParticleEmiter::mostParticles);
+    EXPECT_EQ(device->drawCount, 1);
 }
 
 } // namespace

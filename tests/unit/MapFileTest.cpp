@@ -58,7 +58,9 @@ const std::string everyWord =
 
 /// A name and all that stands beside chains.
 const std::string namedWithAll =
-    "5 6 5 named 0 2 1 0 5 qq120 60 10 Who's that 90 1 101 0.5 2 30 15 -0.25 ";
+    "7 6 5 named 0 2 1 0 5 qq120 60 10 Who's that 90 1 101 0.5 2 30 15 -0.25 "
+    "16 100 1 0.5 0.25 3 1 4 5 6 7 unknown "
+    "14 1 2 unknown 3 0.1 0.2 0.3 0.4 5 6 0.5 0.6 0.7 0.8 7 8 9 10 11 0.5 1 ";
 
 std::string chainRecord() {
     const std::unique_ptr<CallbackAdd> chain(parseScript(everyWord));
@@ -125,6 +127,7 @@ protected:
             sceneManager().addScene(parse(text));
             testing::internal::CaptureStdout(); // a body may leave the world's bounds
             physicsModule().update();
+            graphicsModule().update();
             testing::internal::GetCapturedStdout();
         });
         EXPECT_TRUE(reason.empty() || isCorruption(reason)) << reason;

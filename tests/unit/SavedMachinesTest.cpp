@@ -1,6 +1,7 @@
 #include "FloorFixture.h"
 
 #include "TextStream.h"
+#include "graphicsModule/ParticleEmiter.h"
 #include "sceneManager/MapFile.h"
 
 namespace {
@@ -27,8 +28,8 @@ protected:
 };
 
 TEST_F(SavedMachines, AClockGoesOnWhereItStood) {
-    floor->addAddition(parseScript("LOCK DELAY 50 A"));
-    step(20);
+    floor->addAddition(parseScript("LOCK DELAY 2 DELAY 50 A DELAY 30"));
+    step(21);
     saveAndLoad();
     step(29);
     EXPECT_EQ(runs, 0);
@@ -69,6 +70,22 @@ TEST_F(SavedMachines, AHalfFadedObjectFadesOnFromWhereItStood) {
     step(90);
     EXPECT_EQ(alphaOf(*floor->graphicsObject), 0.0F);
     EXPECT_EQ(runs, 0) << "told before the save";
+}
+
+TEST_F(SavedMachines, AnEmitterSpraysOnAndWhatIsInFlightIsNotStored) {
+    ParticleParams look;
+    look.life = 1000.0F;
+    look.rate = 1.5F;
+    floor->addAddition(new ParticleEmiter(look));
+    const auto inFlight = [this] {
+        return static_cast<ParticleEmiter&>(*floor->additions.at(0)).getParticles().size();
+    };
+    step(11);
+    ASSERT_EQ(inFlight(), 16U);
+    saveAndLoad();
+    EXPECT_EQ(inFlight(), 0U);
+    step();
+    EXPECT_EQ(inFlight(), 1U) << "what was owed is forgotten too";
 }
 
 TEST_F(SavedMachines, ADialogThatWasHeardStaysClosed) {

@@ -1,11 +1,11 @@
 #include "support/EngineFixture.h"
 
 #include "PhysicsBodies.h"
+#include "TextStream.h"
 #include "graphicsModule/Camera.h"
-#include "graphicsModule/LightAdd.h"
-#include "graphicsModule/Painter.h"
 #include "graphicsModule/WaterGraphics.h"
 #include "physicsModule/PhysicsModule.h"
+#include "sceneManager/MapFile.h"
 #include "sceneManager/So_Addons/WaterAddition.h"
 #include "sceneManager/TestPlayer.h"
 
@@ -148,38 +148,43 @@ TEST_F(WaterTest, ColumnsStandTenUnitsApartAndTheLastShortOfTheRight) {
     EXPECT_EQ(makeWaves(30, 60).getLocalBounds().top, 210.0F) << "room for waves";
 }
 
-TEST_F(WaterTest, TheSurfaceFollowsItsRecurrence) {
-    const double dt = physicsModule().period;
-    const float top = 7.0F;
-    for (const std::size_t n : {3U, 4U, 5U, 12U}) {
-        WaterGraphics water = makeWaves(static_cast<float>(n) * 10.0F, top);
-        std::vector<double> y(n, top);
-        std::vector<double> s(n, 0.0);
-        double disturbance = 0.0;
-        const auto pull = [&](std::size_t i, double mean) {
-            s[i] = (s[i] + mean - y[i]) * 0.991;
-            y[i] += s[i] * dt;
-        };
-        for (int tick = 0; tick < 100; ++tick) {
-            pull(1, (y[2] + y[0] + top) / 3);
-            pull(n - 2, (y[n - 3] + y[n - 1] + top) / 3);
-            for (std::size_t i = 2; i + 2 < n; ++i) {
-                pull(i, (y[i + 2] + y[i - 2] + y[i - 1] + y[i + 1] + top) / 5);
-                disturbance += std::abs(top - y[i]);
-            }
-            disturbance /= static_cast<double>(n);
-            y[0] = y[1];
-            y[n - 1] = y[n - 2];
+TEST_F(WaterTest, AHitRunsToBothSidesAlikeAndDiesAway) {
+    constexpr std::size_t middle = 20;
+    WaterGraphics water = makeWaves(410, 7);
+    water.splash(200.0F, 0.0F, -250.0F);
+    const auto farthest = [&water](int steps, std::size_t columns) {
+        std::pair<int, float> most{0, 0.0F}; // when, and how far from the rest
+        for (int i = 0; i < steps; ++i) {
             water.updateSurface();
-            for (std::size_t i = 0; i < n; ++i) {
-                ASSERT_NEAR(levelAt(water, i), y[i], 1e-3) << n << " columns, tick " << tick;
-                ASSERT_NEAR(water.getSpeeds()[i], s[i], tick % 30 == 0 ? 40.0 : 1e-3);
-                s[i] = water.getSpeeds()[i]; // every 30th stirs it, wherever that is
+            for (std::size_t k = 0; k < columns; ++k) {
+                if (const float y = levelAt(water, middle + k) - 7.0F;
+                    std::abs(y) > std::abs(most.second)) {
+                    most = {i, y};
+                }
             }
         }
-        EXPECT_NEAR(water.getDisturbance(), disturbance, 1e-3);
-        EXPECT_EQ(disturbance > 0.0, n > 4);
-        EXPECT_TRUE(water.getDroplets().empty()) << "a ripple is too soft";
+        return most;
+    };
+    const auto [when, depth] = farthest(25, 1);
+    EXPECT_NEAR(depth, -41.0F, 2.0F);
+    EXPECT_NEAR(when, 17, 2);
+    for (std::size_t k = 1; k < 15; ++k) {
+        EXPECT_NEAR(levelAt(water, middle - k), levelAt(water, middle + k), 1.5F) << k;
+    }
+    EXPECT_LT(levelAt(water, middle + 4), 0.0F) << "on its way";
+    EXPECT_NEAR(levelAt(water, middle + 12), 7.0F, 0.1F) << "not there yet";
+    farthest(1000, 1);
+    EXPECT_LT(std::abs(farthest(200, middle).second), 8.0F) << "ripples alone are left";
+    EXPECT_TRUE(water.getDroplets().empty()) << "for which they are too soft";
+
+    for (const std::size_t columns : {3U, 4U, 5U}) { // hardly any neighbours to lean on
+        WaterGraphics puddle = makeWaves(static_cast<float>(columns) * 10.0F, 7);
+        puddle.splash(15.0F, 10.0F, -100.0F);
+        for (int i = 0; i < 600; ++i) {
+            puddle.updateSurface();
+        }
+        EXPECT_NEAR(levelAt(puddle, 1), 7.0F, 15.0F) << columns;
+        EXPECT_EQ(puddle.getDisturbance() > 0.0F, columns > 4) << columns;
     }
 }
 
@@ -362,6 +367,31 @@ TEST_F(SwimTest, HeadUnderItHoldsItsBreathAndGulpsAndHeadOutItBreathes) {
     EXPECT_EQ(heard(), "uwater.wav 64 for ever");
 }
 
+TEST_F(SwimTest, ADiveGoesOnThroughASaveInWhateverOrderTheyAreStored) {
+    stay(-50.0F, 500);
+    for (const int round : {0, 1}) {
+        TextWriter saved;
+        writeScene(saved);
+        sceneManager().clearScene();
+        TextReader reader(saved.text());
+        SceneBundle bundle = parseScene(reader, false);
+        std::reverse(bundle.objects.begin(), bundle.objects.end());
+        player = dynamic_cast<TestPlayer*>(bundle.objects[round == 0 ? 0 : 1]);
+        water = bundle.objects[round == 0 ? 1 : 0];
+        ASSERT_NE(player, nullptr);
+        sceneManager().addScene(std::move(bundle));
+        sceneManager().player = player;
+        heard();
+        stay(-50.0F, 10);
+        EXPECT_EQ(player->waterSteps, 510 + 10 * round);
+        EXPECT_EQ(player->waterCount, 1);
+        EXPECT_TRUE(wavesOf(*water).getDroplets().empty()) << "nothing fell in";
+        EXPECT_EQ(heard(), "uwater.wav 64 for ever");
+    }
+    stay(-14.0F, 1);
+    EXPECT_EQ(heard(), "breath.wav 100");
+}
+
 TEST_F(SwimTest, ItGetsTheLiftOfItsDepthAndLeavesAsFromAJump) {
     stay(-50.0F, 60);
     EXPECT_NEAR(liftOf(*player, {water}), weight * 0.9F, 0.01F);
@@ -376,32 +406,4 @@ TEST_F(SwimTest, ItGetsTheLiftOfItsDepthAndLeavesAsFromAJump) {
     const float before = bodyOf(*player).getLinearVelocity().y();
     player->jump(); // with nothing underfoot, the key lifts who has just jumped
     EXPECT_GT(bodyOf(*player).getLinearVelocity().y(), before);
-}
-
-TEST_F(WaterTest, ItDimsALightByHalfWithinItsArea) {
-    SceneObject* water = addWater<WaterGraphics>();
-    GraphicsObject& graphics = *water->graphicsObject;
-    LightProperties bulb;
-    bulb.size = 100.0F;
-    LightAdd light(bulb);
-    light.updateBounds();
-    const auto shadow = [&] {
-        graphics.updateBounds();
-        painter().flush();
-        device->forget();
-        device->keepsDraws = device->keepsVertices = true;
-        graphics.drawShadow(light);
-        painter().flush();
-        return device->draws.empty() ? std::vector<PaintVertex>() : device->draws[0].vertices;
-    };
-    const std::vector<PaintVertex> vertices = shadow();
-    ASSERT_EQ(vertices.size(), 80U);
-    EXPECT_EQ(vertices[0].a, 0.5F);
-    EXPECT_EQ(vertices[0].r + vertices[0].g + vertices[0].b, 0.0F);
-    EXPECT_NEAR(vertices[0].y - vertices[1].y, 200.0F, 0.01F);
-    graphics.setZ(-1.5F);
-    EXPECT_TRUE(shadow().empty());
-    graphics.setZ(0.0F);
-    graphics.setCastsShadow(0);
-    EXPECT_TRUE(shadow().empty());
 }

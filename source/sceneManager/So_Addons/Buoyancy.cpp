@@ -2,10 +2,11 @@
 
 #include "physicsModule/PhysicsModule.h"
 
-#include <BulletCollision/CollisionShapes/btCollisionShape.h>
+#include <BulletCollision/CollisionShapes/btBox2dShape.h>
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -22,28 +23,61 @@ struct LiftPoint {
 };
 
 struct Box {
-    btVector3 low, high;
+    float left, bottom, right, top;
 
-    float width() const { return high.x() - low.x(); }
-    float height() const { return high.y() - low.y(); }
+    float width() const { return right - left; }
+    float height() const { return top - bottom; }
+    float area() const { return width() * height(); }
 };
 
-/// Area of the box round the body if it were turned further, the sine telling which way.
-float areaTurned(const btRigidBody& body, float sine) {
-    btTransform turned(body.getWorldTransform());
-    const btVector3 row = turned.getBasis()[0];
-    const btVector3 nextRow = turned.getBasis()[1];
-    turned.getBasis()[0] = row * probeCosine - nextRow * sine;
-    turned.getBasis()[1] = row * sine + nextRow * probeCosine;
-    Box box;
-    body.getCollisionShape()->getAabb(turned, box.low, box.high);
-    return box.width() * box.height();
-}
+/// A body by the box round it, as `getAabb` of its shape gives it. Most of what floats is itself a
+/// box, for which the way through the library costs more than the sums.
+class Outline {
+public:
+    explicit Outline(const btRigidBody& body)
+        : shape(*body.getCollisionShape()),
+          place(body.getWorldTransform()),
+          isBox(shape.getShapeType() == BOX_2D_SHAPE_PROXYTYPE) {
+        if (isBox) {
+            half = static_cast<const btBox2dShape&>(shape).getHalfExtentsWithMargin();
+        }
+    }
+
+    /// The box if the body were turned on by an angle of that cosine and sine.
+    Box boxTurned(float cosine, float sine) const {
+        const btMatrix3x3& basis = place.getBasis();
+        const float m00 = basis[0].x() * cosine - basis[1].x() * sine;
+        const float m01 = basis[0].y() * cosine - basis[1].y() * sine;
+        const float m10 = basis[0].x() * sine + basis[1].x() * cosine;
+        const float m11 = basis[0].y() * sine + basis[1].y() * cosine;
+        if (!isBox) {
+            return askShape({m00, m01, 0.0F, m10, m11, 0.0F, 0.0F, 0.0F, 1.0F});
+        }
+        const float x = place.getOrigin().x();
+        const float y = place.getOrigin().y();
+        const float reachX = std::abs(m00) * half.x() + std::abs(m01) * half.y();
+        const float reachY = std::abs(m10) * half.x() + std::abs(m11) * half.y();
+        return {x - reachX, y - reachY, x + reachX, y + reachY};
+    }
+
+private:
+    Box askShape(const btMatrix3x3& basis) const {
+        btVector3 low;
+        btVector3 high;
+        shape.getAabb(btTransform(basis, place.getOrigin()), low, high);
+        return {low.x(), low.y(), high.x(), high.y()};
+    }
+
+    const btCollisionShape& shape;
+    const btTransform& place;
+    bool isBox;
+    btVector3 half; // of a box
+};
 
 /// To the side on which the lift turns the body to the smaller box.
-float sidewaysOffset(const btRigidBody& body, float width) {
-    const float back = areaTurned(body, -probeSine);
-    const float on = areaTurned(body, probeSine);
+float sidewaysOffset(const Outline& outline, float width) {
+    const float back = outline.boxTurned(probeCosine, -probeSine).area();
+    const float on = outline.boxTurned(probeCosine, probeSine).area();
     if (on > back) {
         return width * (on / back - 1.0F);
     }
@@ -54,10 +88,10 @@ float sidewaysOffset(const btRigidBody& body, float width) {
 }
 
 LiftPoint preciseLift(const btRigidBody& body, float surface) {
-    Box box;
-    body.getAabb(box.low, box.high);
-    const float covered = std::max(std::min(box.high.y(), surface) - box.low.y(), 0.0F);
-    const btVector3 offset(sidewaysOffset(body, box.width()), box.height() / 2.0F, 0.0F);
+    const Outline outline(body);
+    const Box box = outline.boxTurned(1.0F, 0.0F);
+    const float covered = std::max(std::min(box.top, surface) - box.bottom, 0.0F);
+    const btVector3 offset(sidewaysOffset(outline, box.width()), box.height() / 2.0F, 0.0F);
     return {offset, covered / box.height()};
 }
 

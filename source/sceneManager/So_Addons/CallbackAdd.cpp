@@ -61,21 +61,37 @@ void CallbackAdd::update(SceneObject* owner) {
 }
 
 /// Advances the clocks, the ones nearest the end first, so that a clock that fires cannot be
-/// advanced in the same step by one before it.
+/// advanced in the same step by one before it. Of a long chain, mostly one clock runs.
 void CallbackAdd::tick(SceneObject* owner) {
-    for (CallbackAdd* clock = lastClock; clock != nullptr; clock = clock->clockBefore) {
+    for (CallbackAdd* clock = lastRunning; clock != nullptr; clock = clock->clockBefore) {
         clock->advance(owner);
+    }
+    while (lastRunning != nullptr && !lastRunning->isRunning()) {
+        lastRunning = lastRunning->clockBefore;
     }
 }
 
 /// To be called on the head when the chain is complete.
 void CallbackAdd::wireClocks() {
-    lastClock = nullptr;
+    CallbackAdd* before = nullptr;
     for (CallbackAdd* link = this; link != nullptr; link = link->next) {
-        link->clockBefore = lastClock;
+        link->clockBefore = before;
         if (link->isClock()) {
-            lastClock = link;
+            before = link;
         }
+        if (link->isRunning()) {
+            lastRunning = link;
+        }
+    }
+}
+
+void CallbackAdd::noteStart() {
+    CallbackAdd* head = this;
+    while (head->prev != nullptr) {
+        head = head->prev;
+    }
+    if (head->lastRunning == nullptr || head->lastRunning->contains(this)) {
+        head->lastRunning = this;
     }
 }
 

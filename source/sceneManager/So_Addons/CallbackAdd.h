@@ -12,10 +12,10 @@
 /// successor be fired. The head is fired every step.
 ///
 /// All walks are loops, so a chain may be as long as memory allows. A class of the family gives
-/// what one link does: `fire`, `finish`, `isClock` and `advance`, `lockLink`, `unlockLink` and
-/// `saveFields`. It
-/// has a `keyword`, a constructor from words, which takes the keyword and its arguments from the
-/// front, and one from a record, which reads what `saveFields` writes.
+/// what one link does: `fire`, `finish`, `isClock`, `isRunning` and `advance`, `lockLink`,
+/// `unlockLink` and `saveFields`. It has a `keyword`, a constructor from words, which takes the
+/// keyword and its arguments from the front, and one from a record, which reads what `saveFields`
+/// writes.
 class CallbackAdd : public So_Addition {
 public:
     /// Deletes the rest of the chain.
@@ -44,14 +44,17 @@ protected:
     virtual void finish(SceneObject*) {}
     /// Whether the link has a clock, which `advance` drives by one step. Always the same answer.
     virtual bool isClock() const { return false; }
+    /// Whether `advance` has anything to do. A clock that is set running calls `noteStart`.
+    virtual bool isRunning() const { return false; }
     virtual void advance(SceneObject*) {}
     virtual void lockLink() {}
     virtual void unlockLink() {}
     /// The fields of the record between type and has-next.
     virtual void saveFields(TextWriter&) const {}
 
-    /// For clocks.
+    // For clocks.
     void fireNext(SceneObject* owner);
+    void noteStart();
 
 private:
     friend CallbackAdd* createLink(ScriptWords& words);
@@ -64,7 +67,7 @@ private:
     CallbackAdd* next = nullptr;        // owned
     CallbackAdd* prev = nullptr;        // null marks the head
     CallbackAdd* clockBefore = nullptr; // the nearest link before this one that is a clock
-    CallbackAdd* lastClock = nullptr;   // of the chain, known to its head
+    CallbackAdd* lastRunning = nullptr; // clock of the chain behind which none runs; the head's
 };
 
 /// What a named command does: the object whose chain fired (null in a global script), and the link.

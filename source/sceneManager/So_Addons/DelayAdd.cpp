@@ -26,6 +26,7 @@ DelayAdd::DelayAdd(AdditionType code, TextReader& stream) : OneArgCall(code, str
 bool DelayAdd::fire(SceneObject*) {
     if (counter == arg) {
         --counter;
+        noteStart();
     }
     return false;
 }
@@ -41,7 +42,7 @@ bool DelayAdd::countDown(SceneObject* owner) {
 }
 
 void DelayAdd::advance(SceneObject* owner) {
-    if (counter != arg) {
+    if (isRunning()) {
         countDown(owner);
     }
 }
@@ -63,8 +64,8 @@ static bool isKeyDown() {
 }
 
 void DelayOrKeyAdd::advance(SceneObject* owner) {
-    if (counter >= arg || countDown(owner) || counter >= arg) {
-        return; // idle before, or after having run out or wrapped
+    if (!isRunning() || countDown(owner) || !isRunning()) {
+        return;
     }
     const bool keyDown = isKeyDown();
     if (!keyDown && !waitRelease) {

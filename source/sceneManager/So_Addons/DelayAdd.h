@@ -18,6 +18,7 @@ protected:
 
     bool fire(SceneObject* owner) override;
     bool isClock() const override { return true; }
+    bool isRunning() const override { return counter != arg; }
     void advance(SceneObject* owner) override;
     void saveFields(TextWriter& stream) const override;
     /// True if the clock has run out, and with it the link has fired.
@@ -37,6 +38,8 @@ public:
     explicit DelayOrKeyAdd(TextReader& stream);
 
 protected:
+    /// Idle before, or after having run out, wrapped or been cut.
+    bool isRunning() const override { return counter < arg; }
     void advance(SceneObject* owner) override;
 
 private:
