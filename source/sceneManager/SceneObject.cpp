@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -21,6 +23,30 @@ int numberFor(const PhysicsObject* physics) {
     }
     return physics->body->isStaticObject() ? -1 : sceneManager().nextObjectNumber();
 }
+
+/// While additions run, those that are removed wait here: a chain may call a command that removes
+/// the chain itself, which still has to find its way back out of it.
+class Graveyard {
+public:
+    void enter() { ++depth; }
+    void leave() {
+        if (--depth == 0) {
+            removed.clear();
+        }
+    }
+    void take(So_Addition* addition) {
+        removed.emplace_back(addition);
+        if (depth == 0) {
+            removed.clear();
+        }
+    }
+
+private:
+    int depth = 0;
+    std::vector<std::unique_ptr<So_Addition>> removed;
+};
+
+Graveyard graveyard;
 
 } // namespace
 
@@ -61,9 +87,11 @@ void SceneObject::moveBy(float dx, float dy) {
 }
 
 void SceneObject::update() {
+    graveyard.enter();
     for (std::size_t i = 0; i < additions.size(); ++i) {
         additions[i]->update(this);
     }
+    graveyard.leave();
 }
 
 void SceneObject::hurt(int amount) {
@@ -84,15 +112,14 @@ void SceneObject::removeAddition(So_Addition* addition) {
     const auto place = std::find(additions.begin(), additions.end(), addition);
     if (place != additions.end()) {
         additions.erase(place);
-        delete addition;
+        graveyard.take(addition);
     }
 }
 
 void SceneObject::clearAdditions() {
-    for (So_Addition* addition : additions) {
-        delete addition;
+    for (So_Addition* addition : std::exchange(additions, {})) {
+        graveyard.take(addition);
     }
-    additions.clear();
 }
 
 So_Addition* SceneObject::findAddition(AdditionType wanted) const {

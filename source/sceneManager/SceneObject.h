@@ -54,8 +54,9 @@ public:
     /// Takes the addition over. All but `HealthAdd` need a physics object and make it collect its
     /// contacts.
     void addAddition(So_Addition* addition);
+    /// Out of the list at once; deleted when the additions that run just now are through.
     void removeAddition(So_Addition* addition);
-    void clearAdditions();
+    void clearAdditions(); ///< The same for all of them.
     So_Addition* findAddition(AdditionType wanted) const;
 
     /// Whether one of the additions is an `ObjectNameAdd` of exactly that name.

@@ -159,14 +159,19 @@ TEST_F(ChainRun, RemovingAScriptLetsItsLinksFinishTheStep) {
     EXPECT_TRUE(physicsModule().getGlobalScripts().empty());
 }
 
-TEST_F(ChainRun, ACommandMayDeleteItsOwnOneWordChain) {
+TEST_F(ChainRun, ACommandMayDeleteItsOwnChainFromAnyLinkAndTick) {
     addCallback("ENDSELF",
                 [](SceneObject* owner, So_Addition* link) { owner->removeAddition(link); });
+    addCallback("ENDALL", [](SceneObject* owner, So_Addition*) { owner->clearAdditions(); });
     SceneObject* box = addBox(0, 0, 10, 10, 0);
-    box->addAddition(parseScript("ENDSELF"));
-    step(2);
-    EXPECT_TRUE(box->additions.empty());
+    for (const char* script :
+         {"ENDSELF", "ENDSELF A", "DELAY 2 ENDALL A", "LOCK DELAY 2 ENDALL A"}) {
+        box->addAddition(parseScript(script));
+        step(4);
+        EXPECT_TRUE(box->additions.empty()) << script;
+    }
     callbackTable().erase("ENDSELF");
+    callbackTable().erase("ENDALL");
 }
 
 TEST_F(ChainRun, SetLockClosesAllLocksOfTheNamedObject) {
