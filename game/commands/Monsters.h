@@ -1,10 +1,11 @@
 #pragma once
 
+#include <LinearMath/btVector3.h>
+
 #include <vector>
 
 class EvilPlayer;
 class Player;
-class btVector3;
 
 // Monsters and ghosts as commands bring them into a level.
 

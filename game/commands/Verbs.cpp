@@ -91,7 +91,7 @@ ScriptCallback thought(std::string object, int line, std::string after) {
                   std::to_string(line) +
                   " FADEALLTONORMAL DELAY 100 DELAYORKEY 10000 TIP -1 FADENORMAL DELAY 100 "
                   "UNLOCKSIM DELAY 50 " +
-                  after + " REMOVESCRIPT");
+                  (after.empty() ? after : after + " ") + "REMOVESCRIPT");
         place->clearAdditions();
     };
 }

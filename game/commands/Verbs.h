@@ -46,8 +46,8 @@ void speak(Player& character, const std::vector<Speech>& lines);
 ScriptCallback tip(int line, int steps);
 
 /// A thought of the protagonist, once in a level: the world stops, the scene goes white, the line
-/// stands until a key, and then the word `after` is run. The object, on which the thought hangs,
-/// loses its additions.
+/// stands until a key, and then the word `after`, if there is one, is run. The object, on which the
+/// thought hangs, loses its additions.
 ScriptCallback thought(std::string object, int line, std::string after);
 
 /// A loop that moves a static object by at most `step` units a step, and runs `arrived`, if there
