@@ -29,7 +29,8 @@ protected:
 TEST_F(Commands, EveryCommandIsEnteredAndRunsOnAnEmptySceneAndOnSceneryWithoutABody) {
     SceneObjectDescription scenery;
     scenery.physical = false;
-    for (const auto table : {commonCommands(), chapter01Commands(), chapter07Commands()}) {
+    for (const auto table :
+         {commonCommands(), chapter01Commands(), chapter06Commands(), chapter07Commands()}) {
         for (const NamedCommand& command : table) {
             EXPECT_TRUE(callbackTable().contains(command.name)) << command.name;
             run(command.name);
