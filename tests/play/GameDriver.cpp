@@ -50,6 +50,8 @@ void GameDriver::step() {
     soundManager().tick();
     if (++steps % drawEvery == 0) {
         draw();
+    } else {
+        graphicsModule().camera->update(); // follows as if a frame were drawn
     }
     if (!pictureDirectory.empty() && steps % pictureSteps == 0) {
         screenshot(pictureDirectory + "/step" + std::to_string(steps) + ".ppm");

@@ -22,6 +22,25 @@ Signal sharpened(std::span<const float> signal) {
     return steps;
 }
 
+/// Means of neighbours: what is above a few hundred hertz goes.
+Signal dulled(std::span<const float> signal) {
+    constexpr std::size_t width = 64;
+    Signal means(signal.size());
+    double sum = 0.0;
+    for (std::size_t i = 0; i < signal.size(); ++i) {
+        sum += signal[i];
+        if (i >= width) {
+            sum -= signal[i - width];
+        }
+        means[i] = static_cast<float>(sum / width);
+    }
+    return means;
+}
+
+std::span<const float> beginningOf(const Signal& sound) {
+    return {sound.data(), std::min(sound.size(), longestPattern)};
+}
+
 double product(const float* a, std::span<const float> b) {
     double sum = 0.0;
     for (std::size_t i = 0; i < b.size(); ++i) {
@@ -132,10 +151,17 @@ float Recording::tone(float hz, int from, int to) const {
 }
 
 std::vector<Heard> Recording::find(const Signal& sound) const {
-    const std::size_t length = std::min(sound.size(), longestPattern);
+    return findIn(sharpened(frames), sharpened(beginningOf(sound)));
+}
+
+std::vector<Heard> Recording::findLow(const Signal& sound) const {
+    return findIn(dulled(frames), dulled(beginningOf(sound)));
+}
+
+std::vector<Heard> Recording::findIn(Signal all, Signal wanted) const {
     std::vector<std::size_t> places = begins; // steps share them, as buffers are longer
     places.erase(std::unique(places.begin(), places.end()), places.end());
-    Search search(sharpened(frames), sharpened({sound.data(), length}), places);
+    Search search(std::move(all), std::move(wanted), places);
     std::vector<Heard> found;
     for (Search::Match match = search.best(); match.likeness > sure; match = search.best()) {
         const auto step = std::lower_bound(begins.begin(), begins.end(), match.at);

@@ -45,10 +45,13 @@ public:
     /// a tenth of the energy, above the low tones. One whose volume changes meanwhile is found as
     /// long as most of it stays alike, and a loop by its first beginning.
     std::vector<Heard> find(const Signal& sound) const;
+    /// The same by the low tones, for a sound that has no others, such as a heart.
+    std::vector<Heard> findLow(const Signal& sound) const;
 
 private:
     std::span<const float> part(int from, int to) const;
     std::size_t beginOf(int step) const;
+    std::vector<Heard> findIn(Signal all, Signal wanted) const;
 
     std::vector<float> frames;
     std::vector<std::size_t> begins; // of steps, in frames
