@@ -84,8 +84,7 @@ void LightAdd::update(SceneObject* owner) {
         state = State::lit;
     }
     if (properties.flickerPeriod > 1) {
-        const auto address = reinterpret_cast<std::uintptr_t>(owner);
-        flicker(physicsModule().stepCount, static_cast<std::uint32_t>(address));
+        flicker(physicsModule().stepCount, owner->seed);
     }
 }
 

@@ -60,6 +60,8 @@ GraphicsObject* makePart(const PartLook& look, PhysicsObject* physics) {
     auto* part = new PhysicsGraphicsObject(data, physics);
     part->moveBy(0.0F, look.shiftY);
     part->updateLocalBounds();
+    // A shadow would be as square as the part, and keep the lamp off the one who is to be seen.
+    part->setCastsShadow(0);
     return part;
 }
 

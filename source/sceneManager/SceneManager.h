@@ -67,6 +67,7 @@ public:
     void addDebris(SceneObject* piece);
 
     int nextObjectNumber() { return ++objectCounter; }
+    std::uint32_t nextSeed() { return seedCounter += seedStep; }
     std::size_t debrisCount() const { return debris.size(); }
 
     std::vector<SceneObject*> objects; ///< Owned.
@@ -75,6 +76,10 @@ public:
 
 private:
     void releaseParts(SceneObject* object);
+
+    /// Neighbours in the order of making shall have nothing in common: the golden ratio of 2^32.
+    static constexpr std::uint32_t seedStep = 2654435769U;
+    std::uint32_t seedCounter = 0;
 
     // Lists in order of entering, not sets of pointers: the order of removal reaches the solver,
     // and two runs of one game must agree.

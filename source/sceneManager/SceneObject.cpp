@@ -54,7 +54,8 @@ SceneObject::SceneObject(const SceneParts& parts)
     : physicsObject(parts.physics),
       graphicsObject(parts.graphics),
       type(parts.type),
-      number(numberFor(parts.physics)) {
+      number(numberFor(parts.physics)),
+      seed(sceneManager().nextSeed()) {
     if (physicsObject != nullptr) {
         physicsObject->body->setUserPointer(this); // how contacts lead back to the scene
     }

@@ -78,6 +78,9 @@ public:
     GraphicsObject* graphicsObject; ///< Null only after `shatter`.
     int type;
     int number;                          ///< 0 without physics, -1 if static, else counted up.
+    /// Tells objects apart where chance is to differ from one to the other and to be the same in
+    /// every run.
+    const std::uint32_t seed;
     std::uint32_t age = 0;               ///< Steps in the physics world.
     bool contactNoise = true;            ///< Whether collisions thud and roll.
     int waterCount = 0;                  ///< Bodies of water that hold the object.
