@@ -77,7 +77,7 @@ public:
     PhysicsObject* physicsObject;   ///< May be null.
     GraphicsObject* graphicsObject; ///< Null only after `shatter`.
     int type;
-    int number;                          ///< 0 without physics, -1 if static, else counted up.
+    int number; ///< 0 without physics, -1 if static, else counted up.
     /// Tells objects apart where chance is to differ from one to the other and to be the same in
     /// every run.
     const std::uint32_t seed;
