@@ -6,8 +6,10 @@
 #include <snappy.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 namespace {
@@ -36,7 +38,7 @@ std::vector<std::string> listFiles(const std::string& pattern) {
 std::string readFile(const std::string& path) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
                                                                std::fclose);
-    if (!file) {
+    if (!file || platform::isDirectory(path)) {
         throwNotFound(path);
     }
     std::string content;
@@ -58,6 +60,17 @@ void writeFile(const std::string& text, const std::string& path) {
         throwNotFound(path);
     case platform::ReplaceResult::failed:
         endProcess("fwrite");
+    }
+}
+
+void storeFile(const std::string& text, const std::string& path) {
+    switch (platform::replaceFile(path, text)) {
+    case platform::ReplaceResult::replaced:
+        return;
+    case platform::ReplaceResult::notOpened:
+        throwNotFound(path);
+    case platform::ReplaceResult::failed:
+        throw path + " - " + std::strerror(errno);
     }
 }
 

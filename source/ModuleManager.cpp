@@ -85,7 +85,7 @@ void ModuleManager::addModule(Module* module) {
 
 void ModuleManager::saveSettings() const {
     try {
-        writeFile(settingsText, userPrefix + configFile);
+        storeFile(settingsText, userPrefix + configFile);
     } catch (const std::string& message) {
         std::cout << message << '\n';
     }

@@ -23,7 +23,7 @@ public:
     /// "jest juz taki obiekt Module" and changes nothing if it is there already.
     void addModule(Module* module);
 
-    /// Writes `settingsText` to `config.txt`. A failure to open is printed, not raised.
+    /// Writes `settingsText` to `config.txt`. A failure is printed, not raised: the old file stays.
     void saveSettings() const;
 
     /// Runs ticks until the window closes, left Alt and F4 are down, or `running` is false.

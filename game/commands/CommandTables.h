@@ -27,6 +27,7 @@ std::span<const NamedCommand> chapter12Commands();
 std::span<const NamedCommand> chapter13Commands();
 std::span<const NamedCommand> chapter14Commands();
 std::span<const NamedCommand> chapter15Commands();
+std::span<const NamedCommand> secretCommands();
 
 /// Enters a table into `callbackTable`.
 void addCommands(std::span<const NamedCommand> commands);

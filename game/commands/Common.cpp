@@ -1,6 +1,8 @@
 #include "CommandTables.h"
 #include "ProcessValues.h"
 #include "game/flow/ChapterFlow.h"
+#include "game/flow/SaveGame.h"
+#include "game/flow/TitleCard.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/InterfaceGraphicsObject.h"
@@ -79,6 +81,16 @@ void stopTalk(SceneObject*, So_Addition*) {
 /// Both words switch the cut scenes off.
 void switchCutsOff(SceneObject*, So_Addition*) {
     cutsOn = 0;
+}
+
+void saveNow(SceneObject*, So_Addition*) {
+    saveGame();
+}
+void save(SceneObject*, So_Addition*) {
+    saveWithFlicker();
+}
+void endTitle(SceneObject*, So_Addition*) {
+    closeTitleCard();
 }
 
 /// Null for everybody else.
@@ -178,6 +190,8 @@ std::span<const NamedCommand> commonCommands() {
         NamedCommand{"STOPTALK", stopTalk},
         NamedCommand{"CUTOFF", switchCutsOff},
         NamedCommand{"CUTON", switchCutsOff},
+        NamedCommand{"ISAVEGAME", saveNow},
+        NamedCommand{"SAVEGAME", save},
         NamedCommand{"XNXX", makeSlowMonster},
         NamedCommand{"XNXX1", makeHeavy},
         NamedCommand{"XNXX2", makeMonster},
@@ -187,6 +201,7 @@ std::span<const NamedCommand> commonCommands() {
         NamedCommand{"UNLOCKMOVEMENT", unlockMovement},
         NamedCommand{"LOCKSIM", lockSimulation},
         NamedCommand{"UNLOCKSIM", unlockSimulation},
+        NamedCommand{"ENDCHAPTER", endTitle},
         NamedCommand{"REMOVESCRIPT", removeScript},
         NamedCommand{"REMOVEOBJECT", removeObject},
         NamedCommand{"MAKEINVISIBLE", makeInvisible},

@@ -1,6 +1,7 @@
 #include "NamedCommands.h"
 
 #include "CommandTables.h"
+#include "game/flow/TitleCard.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
 void addCommands(std::span<const NamedCommand> commands) {
@@ -31,4 +32,6 @@ void registerNamedCommands() {
     addCommands(chapter13Commands());
     addCommands(chapter14Commands());
     addCommands(chapter15Commands());
+    addCommands(secretCommands());
+    registerTitles();
 }

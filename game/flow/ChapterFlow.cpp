@@ -1,114 +1,102 @@
 #include "ChapterFlow.h"
 
-#include "ModuleManager.h"
+#include "Intro.h"
+#include "Levels.h"
 #include "ProcessValues.h"
 #include "Progress.h"
-#include "Protagonist.h"
-#include "game/commands/CommandTables.h"
+#include "SaveGame.h"
+#include "game/menu/MainMenu.h"
+#include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
-#include "graphicsModule/LockedCamera.h"
-#include "inputModule/GameInput.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
-#include "physicsModule/PhysicsObject.h"
-#include "sceneManager/MapFile.h"
-#include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
-
-#include <BulletDynamics/Dynamics/btRigidBody.h>
-
-#include <iostream>
+#include "soundModule/SoundManager.h"
 
 namespace {
 
-constexpr float levelZoom = 1.3F;
-constexpr int fullHealth = 100;
+constexpr auto lastLevelName = "LVL15"; // of an object in the level that has no way back
 
-std::string currentMap; // bare name of the map that was entered last
+constexpr auto badEnding =
+    "LOCK FADEALLTOBLACK DELAY 100 AMBIENT 0 FADENORMAL BADENDING1 TIP 332 DELAY 150 "
+    "DELAYORKEY 20000 FADEALLTOBLACK DELAY 200 TIP 333 FADENORMAL DELAY 150 DELAYORKEY 20000 "
+    "FADEALLTOBLACK DELAY 150 TIP -1 CREATEMENU FADENORMAL REMOVESCRIPT";
 
+/// Runs in every step of a game.
 void watchForDeath(SceneObject*, So_Addition*) {
     if (physicsRunning == 0 || levelRunning == 0 || sceneManager().player != nullptr) {
         return;
     }
     physicsModule().removeAllScripts(); // this one among them
     levelRunning = 0;
-    runScript("LOCK FADEALLTOBLACK DELAY 100 RELOADCHAPTER FADENORMAL REMOVESCRIPT");
+    countDeath();
+    const bool isLast = sceneManager().getSceneObject(lastLevelName) != nullptr;
+    runScript(isLast ? badEnding
+                     : "LOCK FADEALLTOBLACK DELAY 100 LOADLASTSAVE FADENORMAL REMOVESCRIPT");
 }
 
-void reloadChapter(SceneObject*, So_Addition*) {
-    enterMapOrQuit(currentMap);
-}
-
-void followWithCamera(Player& player) {
-    Camera*& camera = graphicsModule().camera;
-    delete camera;
-    camera = new LockedCamera(&player);
-    camera->setZoom(levelZoom);
-}
-
-/// Every entry to a level begins alike, whatever was going on before.
-void takeControl(Player& player) {
-    movementLocked = 0;
-    chapterFlags.fill(0);
+void clearForBadEnding() {
+    sceneManager().clearScene();
+    soundManager().fadeOutSounds();
     inputModule().removeAllFrames();
+    levelRunning = 0;
+}
 
-    PhysicsObject& physics = *player.physicsObject;
-    physics.previousTransform = physics.body->getWorldTransform();
-    physics.renderTransform = physics.previousTransform;
-    PlayerStatistics statistics = player.statistics;
-    statistics.health = fullHealth;
-    player.setStatistics(statistics); // so that what a save lacks or exceeds is no wound
-    sceneManager().player = &player;
-    followWithCamera(player);
-    levelRunning = 1;
+/// The first chapter leaves no fade behind: its own end has gone to white.
+void endFirstChapter() {
+    levelRunning = 0;
+    sceneManager().clearScene();
+    graphicsModule().screenFadeTarget[3] = 0.0F;
+    graphicsModule().sceneFadeTarget[3] = 0.0F;
+    finishChapter(1);
+    runScript("LOCK CHAPTER2INTRO REMOVESCRIPT");
+}
+
+/// What a map's last script calls. Behind the last chapter there is no other: the screen stays
+/// black.
+void endChapter(int chapter) {
+    levelRunning = 0;
+    finishChapter(chapter);
+    runScript("LOCK FADEALLTOBLACK DELAY 100 CHAPTER" + std::to_string(chapter + 1) +
+              "INTRO REMOVESCRIPT");
+}
+
+void registerChapterEnds() {
+    for (int chapter = 2; chapter <= chapterCount; ++chapter) {
+        addCallback("CH" + std::to_string(chapter) + "END",
+                    [chapter](SceneObject*, So_Addition*) { endChapter(chapter); });
+    }
+}
+
+void registerOnce() {
+    addCallback("CHECKINGFORPLAYERDEATH", watchForDeath);
+    addSceneCommand("LOADLASTSAVE", loadLastSave);
+    addSceneCommand("BADENDING1", clearForBadEnding);
+    addSceneCommand("CREATEMENU", createMenu);
+    addSceneCommand("CH1KO", endFirstChapter);
+    registerIntros();
+    registerLevels();
+    registerChapterEnds();
 }
 
 } // namespace
-
-/// What a map's last script calls: "CH2END" and so on.
-static void addChapterEnd(int number) {
-    addCallback("CH" + std::to_string(number) + "END", [number](SceneObject*, So_Addition*) {
-        levelRunning = 0;
-        finishChapter(number);
-        runScript("LOCK FADEALLTOBLACK DELAY 100 CHAPTER" + std::to_string(number + 1) +
-                  "INTRO REMOVESCRIPT");
-    });
-}
 
 void runScript(const std::string& text) {
     physicsModule().addScript(parseScript(text));
 }
 
+void addSceneCommand(const std::string& name, std::function<void()> act) {
+    addCallback(name, [name, act = std::move(act)](SceneObject* owner, So_Addition*) {
+        owner != nullptr ? runScript("LOCK " + name + " REMOVESCRIPT") : act();
+    });
+}
+
+void useCamera(Camera* camera) {
+    delete graphicsModule().camera;
+    graphicsModule().camera = camera;
+}
+
 void registerFlowCommands() {
-    static bool registered = false;
-    if (!registered) {
-        registered = true;
-        addCommands(std::array{
-            NamedCommand{"CHECKINGFORPLAYERDEATH", watchForDeath},
-            NamedCommand{"RELOADCHAPTER", reloadChapter},
-        });
-        for (int number = 2; number <= chapterCount; ++number) {
-            addChapterEnd(number);
-        }
-    }
-}
-
-void enterMap(const std::string& fileName) {
-    SceneBundle bundle = loadMapFile(dataPrefix + "maps/" + fileName, true);
-    levelRunning = 0; // until the protagonist stands
-    sceneManager().clearScene();
-    sceneManager().addScene(std::move(bundle));
-    currentMap = fileName;
-    takeControl(placeProtagonist());
-    runScript("CHECKINGFORPLAYERDEATH");
-}
-
-void enterMapOrQuit(const std::string& fileName) {
-    try {
-        enterMap(fileName);
-    } catch (const std::string& error) {
-        std::cout << error << '\n';
-        moduleManager().running = false;
-    }
+    [[maybe_unused]] static const bool registered = (registerOnce(), true);
 }

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
-// State of the game's flow, and the way into a level.
+class Camera;
+
+// State of the game's flow, which is told in scripts: each act ends by running the one that begins
+// the next.
 
 inline int levelRunning = 0; ///< 1 while a level is in play: only then is a missing player a death.
 inline bool gameStarted = false;           ///< A game has been started from the menu.
@@ -13,15 +17,12 @@ inline std::array<int, 10> chapterFlags{}; ///< Scratch of the chapters' command
 /// Adds a global script.
 void runScript(const std::string& text);
 
+/// Takes the camera over, in the place of the old one.
+void useCamera(Camera* camera);
+
+/// Enters a command that replaces the scene. In a chain on an object, which would not outlive it,
+/// it runs behind the objects of the step.
+void addSceneCommand(const std::string& name, std::function<void()> act);
+
 /// Enters the commands that the flow itself is told in, once in a process.
 void registerFlowCommands();
-
-/// Replaces the scene by the map of that name in the maps directory, gives the user the protagonist
-/// with full health and a camera that follows it, and watches for its death, after which the same
-/// map is entered again.
-/// @throws std::string if the map cannot be read, in which case the scene stays, or if it has no
-/// place for the protagonist
-void enterMap(const std::string& fileName);
-
-/// Enters the map, or says why not and ends the program.
-void enterMapOrQuit(const std::string& fileName);

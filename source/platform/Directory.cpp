@@ -27,12 +27,13 @@ bool listDirectory(const std::string& pattern, std::vector<std::string>& names) 
     return true;
 }
 
-bool makeDirectory(const std::string& path) {
-    if (mkdir(path.c_str(), 0777) == 0) {
-        return true;
-    }
+bool isDirectory(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool makeDirectory(const std::string& path) {
+    return mkdir(path.c_str(), 0777) == 0 || isDirectory(path);
 }
 
 } // namespace platform

@@ -28,3 +28,6 @@ SceneObject* readSceneObject(TextReader& stream);
 
 /// Prints the present scene.
 void writeScene(TextWriter& stream);
+
+/// The content of a file that holds the present scene.
+std::string packScene();

@@ -1,5 +1,6 @@
 #include "MapFile.h"
 
+#include "Files.h"
 #include "JointRecord.h"
 #include "StoredObjects.h"
 #include "TextStream.h"
@@ -32,6 +33,14 @@ void writeEnvironment(TextWriter& stream) {
 }
 
 } // namespace
+
+std::string packScene() {
+    TextWriter stream;
+    writeScene(stream);
+    std::string packed;
+    compress(stream.text().data(), stream.text().size(), packed);
+    return packed;
+}
 
 void writeScene(TextWriter& stream) {
     const StoredObjects objects(sceneManager().objects);

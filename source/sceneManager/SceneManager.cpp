@@ -159,11 +159,7 @@ void SceneManager::addDebris(SceneObject* piece) {
 }
 
 void SceneManager::saveMap(const std::string& path) {
-    TextWriter stream;
-    writeScene(stream);
-    std::string packed;
-    compress(stream.text().data(), stream.text().size(), packed);
-    writeFile(packed, path);
+    writeFile(packScene(), path);
 }
 
 bool SceneManager::preloadScene(const std::string& path) {

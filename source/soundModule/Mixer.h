@@ -32,6 +32,8 @@ public:
     virtual int play(SoundId sound, bool forEver) = 0;
     virtual void setVolume(int channel, int volume) = 0;
     virtual void halt(int channel) = 0;
+    /// Returns at once; the channel still counts as playing until it is silent.
+    virtual void fadeOut(int channel, int milliseconds) = 0;
     virtual bool isPlaying(int channel) = 0;
 
     /// Fades a piece in and repeats it for ever; no other may be playing. False if it cannot start.

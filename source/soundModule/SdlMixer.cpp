@@ -58,6 +58,9 @@ public:
     int play(SoundId sound, bool forEver) override;
     void setVolume(int channel, int volume) override { Mix_Volume(channel, volume); }
     void halt(int channel) override { Mix_HaltChannel(channel); }
+    void fadeOut(int channel, int milliseconds) override {
+        Mix_FadeOutChannel(channel, milliseconds);
+    }
     bool isPlaying(int channel) override { return Mix_Playing(channel) != 0; }
 
     bool fadeInMusic(MusicId music, int milliseconds) override;

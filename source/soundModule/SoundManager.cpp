@@ -24,6 +24,7 @@ constexpr int shortestPause = 30; // steps between two breaths
 constexpr int longestPause = 300; // steps between two breaths
 constexpr int breathSounds = 11;
 constexpr int musicFade = 2000; // milliseconds
+constexpr int soundFade = 4000; // milliseconds; when a whole scene goes
 constexpr auto bodyOwner = static_cast<SoundOwner>(-1);
 constexpr SoundOwner noOwner = 0;
 
@@ -152,6 +153,12 @@ void SoundManager::stopOwner(SoundOwner owner) {
         if (channelOwner[i] == owner && carries(channel, channelSound[i])) {
             halt(channel);
         }
+    }
+}
+
+void SoundManager::fadeOutSounds() {
+    for (int channel = 0; channel < Mixer::channelCount; ++channel) {
+        mixer->fadeOut(channel, soundFade);
     }
 }
 

@@ -42,6 +42,8 @@ public:
     void stopAll(const std::string& name);
     /// Stops every channel of the owner.
     void stopOwner(SoundOwner owner);
+    /// Every sound dies away over four seconds; the music goes on.
+    void fadeOutSounds();
     /// Fades to another piece; an empty name fades out.
     void playMusic(const std::string& name);
     void addFear(float periodDelta, int levelDelta);

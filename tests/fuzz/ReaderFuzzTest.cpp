@@ -7,20 +7,26 @@
 #include "ModuleManager.h"
 #include "Settings.h"
 #include "TextStream.h"
+#include "game/flow/ChapterFlow.h"
+#include "game/flow/Levels.h"
+#include "game/flow/SaveGame.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/MapFile.h"
+#include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
+#include "sceneManager/TestPlayer.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <streambuf>
 
 // Each test damages good input at random for a while; the seed is printed, so that a crash can be
-// repeated. TOLMERE_FUZZ_SECONDS says for how long all four run together, TOLMERE_FUZZ_SEED where.
+// repeated. TOLMERE_FUZZ_SECONDS says for how long all five run together, TOLMERE_FUZZ_SEED where.
 
 namespace {
 
@@ -54,7 +60,7 @@ protected:
             environment("TOLMERE_FUZZ_SEED", std::to_string(std::random_device()()).c_str())));
         std::cout << "TOLMERE_FUZZ_SEED=" << seed << std::endl;
         Mutator mutator(seed);
-        const double seconds = std::stod(environment("TOLMERE_FUZZ_SECONDS", "4")) / 4.0;
+        const double seconds = std::stod(environment("TOLMERE_FUZZ_SECONDS", "4")) / 5.0;
         const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
         int trials = 0;
         const Silence silence;
@@ -89,6 +95,40 @@ TEST_F(ReaderFuzz, ADamagedMapIsRefusedOrPlays) {
         }
         sceneManager().clearScene();
     });
+}
+
+// Cut short or altered in its bytes or in its text, a save is played or leads to the menu.
+TEST_F(ReaderFuzz, ADamagedSaveIsPlayedOrTold) {
+    registerFlowCommands();
+    auto* floor = new SceneObject(makeBoxParts({}, 0.0F, 0.0F, 500.0F, 10.0F));
+    floor->addAddition(
+        parseScript("TRIGGER -P LOCK SAVEGAME DELAY 3 CH4END CHECKINGFORPLAYERDEATH"));
+    sceneManager().addSceneObject(floor);
+    sceneManager().addSceneObject(new TestPlayer);
+    enterChapter(false);
+    saveGameAs("good.vkl");
+    const std::string packed = readFile("save/good.vkl");
+    std::string good;
+    ASSERT_TRUE(uncompress(packed.data(), packed.size(), good));
+    int number = 0;
+    run([&](Mutator& mutator) {
+        const std::string name = "save" + std::to_string(++number) + ".vkl";
+        std::string damaged;
+        if (number % 4 == 0) {
+            damaged = mutator.mutate(packed);
+        } else {
+            const std::string text = mutator.mutate(good);
+            compress(text.data(), text.size(), damaged);
+        }
+        directory.write("save/" + name, damaged);
+        setModifier("ACTUAL_SAVE", name, moduleManager().settingsText);
+        loadLastSave();
+        EXPECT_EQ(levelRunning == 1, sceneManager().player != nullptr);
+        step(2);
+        std::filesystem::remove("save/" + name);
+        physicsModule().removeAllScripts();
+    });
+    levelRunning = 0;
 }
 
 TEST_F(ReaderFuzz, DamagedSettingsGiveAValueOrAReason) {

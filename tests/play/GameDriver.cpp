@@ -5,6 +5,9 @@
 #include "ProcessValues.h"
 #include "TextStream.h"
 #include "game/flow/ChapterFlow.h"
+#include "game/flow/GameEntry.h"
+#include "game/flow/Levels.h"
+#include "game/flow/SaveGame.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/GraphicsObject.h"
@@ -14,7 +17,6 @@
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/Equipment.h"
 #include "sceneManager/Hands.h"
-#include "sceneManager/HandsPause.h"
 #include "sceneManager/MapFile.h"
 #include "sceneManager/Player.h"
 #include "soundModule/SoundManager.h"
@@ -31,12 +33,22 @@ namespace {
 
 constexpr int drawEvery = 20; // steps; software drawing is the dearest part of a play test
 
+/// The level of a chapter, or one that begins at its marker.
+Level levelOn(const std::string& map) {
+    for (int chapter = 1; chapter <= chapterCount; ++chapter) {
+        if (levelOf(chapter).map == map) {
+            return levelOf(chapter);
+        }
+    }
+    return {map};
+}
+
 } // namespace
 
 GameDriver::GameDriver(ScriptedWindow& scripted, const std::string& map) : window(scripted) {
     window.moveMouse(windowWidth / 2, windowHeight / 2);
     registerFlowCommands();
-    enterMap(map);
+    startInLevel(levelOn(map));
 }
 
 void GameDriver::step() {
@@ -141,11 +153,8 @@ void GameDriver::pointMouse() {
 }
 
 void GameDriver::reload() {
-    {
-        const HandsPause pause(player());
-        sceneManager().saveMap("maps/RELOADED.vkl");
-    }
-    enterMap("RELOADED.vkl");
+    saveGameAs("reload" + std::to_string(++reloads) + ".vkl");
+    loadLastSave();
     for (const int key : heldKeys) { // a new character knows of no key that was down before it
         window.press(key);
     }

@@ -53,6 +53,7 @@ private:
     std::set<int> heldButtons;
     std::string pictureDirectory; // empty for none
     int pictureSteps = 0;
+    int reloads = 0;
     bool aiming = false;
     std::string aimTarget; // name of an object; empty for a place relative to the protagonist
     float aimX = 0.0F;

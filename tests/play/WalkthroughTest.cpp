@@ -14,7 +14,7 @@ namespace {
 
 class Play : public PlayFixture {};
 
-/// A small level about one thing, in the place of the first chapter.
+/// A small level about one thing.
 class SmallLevel : public Play {
 protected:
     explicit SmallLevel(std::string level) : path(TOLMERE_TEST_LEVELS "/" + std::move(level)) {}
@@ -30,7 +30,7 @@ protected:
         }
         std::string packed;
         compress(text.data(), text.size(), packed);
-        writeFile(packed, "maps/CHAPTER1.vkl");
+        writeFile(packed, "maps/LEVEL.vkl");
     }
 
     std::string path; ///< Without its ending.
@@ -86,11 +86,11 @@ std::vector<int> chaptersToWalk() {
 } // namespace
 
 TEST_F(HuntLevel, AMonsterThatFollowsIntoTheLightDies) {
-    follow("CHAPTER1.vkl", path + ".walk", "hunt-failed.ppm");
+    follow("LEVEL.vkl", path + ".walk", "hunt-failed.ppm");
 }
 
 TEST_F(HandsLevel, ACrateIsCarriedAndThrownAndALianaClimbed) {
-    follow("CHAPTER1.vkl", path + ".walk", "hands-failed.ppm");
+    follow("LEVEL.vkl", path + ".walk", "hands-failed.ppm");
 }
 
 TEST_F(Play, Chapter1IsFinishedFromItsStartToItsRightEnd) {

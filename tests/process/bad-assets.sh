@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Assets that are missing or damaged, and no display: a clear line and an orderly end, or play goes on.
 source "$(dirname "$0")/harness.sh"
+begin_in_chapter 1
 
 # No display at all.
 unset DISPLAY WAYLAND_DISPLAY || true

@@ -17,6 +17,11 @@ for entry in "$BUILT"/*; do
 done
 sed -i 's/^V_SYNC .*/V_SYNC 0\r/' "$GAME/config.txt"
 
+# Instead of at the start screen, the game begins in a level.
+begin_in_chapter() { # NUMBER
+    printf 'START_CHAPTER %d\r\n' "$1" >>"$GAME/config.txt"
+}
+
 PID='' XVFB=''
 cleanup() {
     [ -z "${KEEP_OUT:-}" ] || cp "$WORK/out" "$KEEP_OUT"

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # A window of another shape gets bars; closing it by the window manager keeps the settings.
 source "$(dirname "$0")/harness.sh"
+begin_in_chapter 1
 
 start_display
 start_window_manager

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The program opens its window, draws the level, ends by left Alt and F4 and keeps its settings.
 source "$(dirname "$0")/harness.sh"
+begin_in_chapter 1
 
 start_display
 printf 'BRIGHTNESS 1.25\r\nUNKNOWN 7\r\n' >>"$GAME/config.txt"

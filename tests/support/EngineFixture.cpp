@@ -17,7 +17,7 @@
 namespace {
 
 constexpr double frameSeconds = 1.0 / 60.0;
-constexpr int languageLines = 420; // some above the last line that the game has a number for
+constexpr int languageLines = 440; // some above the last line that the game has a number for
 
 constexpr const char* settings = "FULLSCREEN 0\r\n"
                                  "WINDOW_WIDTH 1280\r\n"

@@ -38,6 +38,7 @@ public:
     int play(SoundId sound, bool forEver) override;
     void setVolume(int channel, int volume) override;
     void halt(int channel) override { endSound(channel); }
+    void fadeOut(int channel, int /*milliseconds*/) override { endSound(channel); }
     bool isPlaying(int channel) override;
     bool fadeInMusic(MusicId piece, int milliseconds) override;
     void fadeOutMusic(int milliseconds) override;

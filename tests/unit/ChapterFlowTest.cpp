@@ -1,97 +1,186 @@
-#include "support/EngineFixture.h"
+#include "FlowFixture.h"
 
 #include "GameStart.h"
 #include "ModuleManager.h"
-#include "game/flow/ChapterFlow.h"
+#include "Settings.h"
+#include "game/flow/GameEntry.h"
+#include "game/flow/Progress.h"
 #include "graphicsModule/Camera.h"
-#include "graphicsModule/GraphicsModule.h"
-#include "physicsModule/PhysicsModule.h"
-#include "physicsModule/PhysicsObject.h"
-#include "sceneManager/Player.h"
-#include "sceneManager/SceneManager.h"
-#include "sceneManager/SceneObjectDescription.h"
-#include "sceneManager/So_Addons/CallbackAdd.h"
+#include "graphicsModule/InterfaceGraphicsObject.h"
+#include "soundModule/SoundManager.h"
 
-#include <BulletDynamics/Dynamics/btRigidBody.h>
+#include <gmock/gmock.h>
+
+using testing::HasSubstr;
 
 namespace {
 
-class ChapterFlow : public EngineFixture {
+class ChapterFlow : public FlowFixture {
 protected:
-    void TearDown() override {
-        levelRunning = 0;
-        EngineFixture::TearDown();
-    }
+    static btVector3 placeOfPlayer() { return originOf(*sceneManager().player); }
 
-    /// Stores a map of a floor, and of a marker on it, as the first chapter.
-    static void writeMap(const char* markerName) {
-        add(0.0F, 0.0F, 500.0F, "floor");
-        add(100.0F, 60.0F, 1.0F, markerName);
-        sceneManager().saveMap("maps/CHAPTER1.vkl");
-        sceneManager().clearScene();
-    }
-
-    static void add(float x, float y, float halfWidth, const std::string& name) {
-        auto* object = new SceneObject(makeBoxParts({}, x, y, halfWidth, 10.0F));
-        object->addAddition(parseScript("NAME " + name));
-        sceneManager().addSceneObject(object);
+    /// A game in a level of a floor alone.
+    static void enterSmallLevel() {
+        writeMap("SMALL.vkl");
+        startInLevel({"SMALL.vkl"});
     }
 };
 
-TEST_F(ChapterFlow, TheGameStartsWithTheProtagonistAtItsPlace) {
-    writeMap("STARTPOS");
-    chapterFlags[3] = 7;
+TEST_F(ChapterFlow, TheStartScreenStandsUntilAKeyAndLeadsToTheMenu) {
     gameStart();
-    const Player* player = sceneManager().player;
-    ASSERT_NE(player, nullptr);
-    EXPECT_EQ(player->physicsObject->body->getWorldTransform().getOrigin(),
-              btVector3(100.0F, 60.0F, 0.0F));
-    EXPECT_EQ(graphicsModule().camera->owner, player);
-    EXPECT_EQ(chapterFlags[3], 0);
-    EXPECT_EQ(levelRunning, 1);
-    EXPECT_TRUE(moduleManager().running);
-}
-
-TEST_F(ChapterFlow, AProtagonistThatTheMapBringsIsTaken) {
-    writeMap("STARTPOS");
-    gameStart();
-    sceneManager().player->statistics.health = 10;
-    sceneManager().player->statistics.speed = 123.0F;
-    sceneManager().saveMap("maps/CHAPTER2.vkl");
-    enterMap("CHAPTER2.vkl");
-    ASSERT_NE(sceneManager().player, nullptr);
-    EXPECT_EQ(sceneManager().player->statistics.speed, 123.0F);
-    EXPECT_EQ(sceneManager().player->statistics.health, 100);
-    EXPECT_EQ(sceneManager().objects.size(), 3U);
-}
-
-TEST_F(ChapterFlow, ADeathLeadsBackToTheStartOfTheMap) {
-    writeMap("STARTPOS");
-    gameStart();
-    step(10);
-    sceneManager().player->hurt(1000);
-    step(2);
+    step(200);
+    EXPECT_EQ(shownWords(), "line 5 ");
+    EXPECT_EQ(alphaOf(*graphicsModule().screenFade), 0.0F);
+    EXPECT_EQ(alphaOf(*graphicsModule().sceneFade), 1.0F) << "all but the words is black";
+    window->press(platform::keySpace);
+    frame(3);
+    window->release(platform::keySpace);
+    frame(3);
+    EXPECT_EQ(graphicsModule().screenFadeTarget[3], 1.0F);
+    step(150);
+    EXPECT_THAT(shownWords(), testing::Not(HasSubstr("line 5 ")));
+    EXPECT_EQ(graphicsModule().sceneFadeTarget[3], 0.0F);
     EXPECT_EQ(sceneManager().player, nullptr);
-    step(100);
-    ASSERT_NE(sceneManager().player, nullptr);
-    EXPECT_EQ(sceneManager().player->statistics.health, 100);
-    EXPECT_EQ(sceneManager().objects.size(), 3U);
-    sceneManager().player->hurt(1000); // and again
-    step(103);
-    EXPECT_NE(sceneManager().player, nullptr);
+}
+
+TEST_F(ChapterFlow, ADoubleClickInTheMenuStartsOneGame) {
+    startNewGame();
+    startNewGame();
+    continueGame();
+    startChapter(3);
+    EXPECT_EQ(physicsModule().getGlobalScripts().size(), 2U); // the watch, and the way there
+    EXPECT_EQ(cutsOn, 1);
+}
+
+TEST_F(ChapterFlow, ANewGameWakesUpBehindItsIntroAndGetsControlLater) {
+    writeMap("CHAPTER1.vkl");
+    startNewGame();
+    step(210);
+    EXPECT_EQ(sceneManager().objects.size(), 1U) << "the backdrop";
+    EXPECT_EQ(graphicsModule().camera->owner, sceneManager().objects[0]);
+    EXPECT_EQ(levelRunning, 0);
+    ASSERT_TRUE(stepUntilPlayer(5000));
+    EXPECT_EQ(placeOfPlayer(), btVector3(1050.0F, 150.0F, 0.0F));
+    EXPECT_EQ(levelRunning, 1);
+    step(110);
+    EXPECT_EQ(shownWords(), "line 9 ");
+    EXPECT_EQ(movementLocked, 1);
+    step(300);
+    EXPECT_EQ(shownWords(), "");
+    step(1550);
+    EXPECT_EQ(movementLocked, 0);
+    EXPECT_EQ(readDeaths(), 0);
+    EXPECT_EQ(latestSave(), "") << "the first chapter begins without a save";
+}
+
+TEST_F(ChapterFlow, EachChapterIsEnteredFromItsIntroSavedNamedAndFinished) {
+    for (int chapter = 2; chapter <= chapterCount; ++chapter) {
+        const std::string name = "CHAPTER" + std::to_string(chapter);
+        SCOPED_TRACE(name);
+        const ChapterRow& row = chapterRow(chapter);
+        writeMap(name + ".vkl");
+        setLatestSave("none");
+        chapterFlags[3] = 7;
+        movementLocked = 1;
+        run(name + "INTRO");
+        EXPECT_EQ(graphicsModule().ambient[0], row.ambient);
+        EXPECT_EQ(graphicsModule().camera->owner != nullptr, row.followsBackdrop);
+        ASSERT_TRUE(stepUntilPlayer(5000));
+        const auto [x, y] = row.start.value_or(Place{100.0F, 60.0F});
+        EXPECT_EQ(placeOfPlayer(), btVector3(x, y, 0.0F));
+        EXPECT_EQ(sceneManager().player->hasName("EVILPLAYERLVL"), chapter == 10);
+        EXPECT_EQ(chapterFlags[3], 0);
+        EXPECT_EQ(movementLocked, 0);
+        EXPECT_NE(latestSave(), "none");
+        EXPECT_EQ(shownWords(), "line " + std::to_string(row.title) + " ");
+        run("CH" + std::to_string(chapter) + "END");
+        EXPECT_EQ(levelRunning, 0);
+        EXPECT_TRUE(readProgress()[static_cast<std::size_t>(chapter) - 1]);
+        physicsModule().removeAllScripts();
+        step(2);
+    }
+}
+
+TEST_F(ChapterFlow, TheEndOfAChapterLeadsToTheIntroOfTheNext) {
+    enterSmallLevel();
+    run("CH1KO");
+    step(2);
+    EXPECT_TRUE(readProgress()[0]);
+    EXPECT_EQ(sceneManager().objects.size(), 1U) << "the backdrop of chapter 2";
+    EXPECT_EQ(originOf(*sceneManager().objects[0]).x(), 0.0F);
+    physicsModule().removeAllScripts();
+    run("CH2END");
+    step(120);
+    EXPECT_EQ(sceneManager().objects.size(), 2U) << "the two of chapter 3";
+    EXPECT_EQ(readDeaths(), 0) << "that nobody plays in an intro is no death";
+}
+
+TEST_F(ChapterFlow, ALevelWithoutAPlaceToStartLeavesTheCharacterWhereItWasMade) {
+    writeMap("CHAPTER6.vkl", "elsewhere");
+    startInLevel(levelOf(6));
+    EXPECT_EQ(placeOfPlayer(), btVector3(500.0F, 500.0F, 0.0F));
+}
+
+TEST_F(ChapterFlow, AnObjectMayReplaceTheSceneThatItIsPartOf) {
+    for (const char* word : {"LOADLASTSAVE", "CHAPTER3INTRO", "CH1KO", "BADENDING1", "CHAPTER4"}) {
+        enterSmallLevel();
+        sceneManager().objects[0]->addAddition(parseScript(std::string("LOCK DELAY 3 ") + word));
+        step(5);
+        EXPECT_EQ(sceneManager().getSceneObject("floor") != nullptr, word[0] == 'L') << word;
+        physicsModule().removeAllScripts();
+        step();
+    }
+}
+
+TEST_F(ChapterFlow, ADeathWithoutASaveLeadsBackToTheStartOfTheLevel) {
+    enterSmallLevel();
+    run("CHECKINGFORPLAYERDEATH");
+    for (int deaths = 1; deaths <= 2; ++deaths) {
+        runScript("CHECKINGFORPLAYERDEATH"); // a second watch, as Continue leaves one
+        step(10);
+        sceneManager().player->hurt(1000);
+        step(2);
+        EXPECT_EQ(sceneManager().player, nullptr);
+        step(100);
+        ASSERT_NE(sceneManager().player, nullptr);
+        EXPECT_EQ(sceneManager().player->statistics.health, 100);
+        EXPECT_EQ(sceneManager().objects.size(), 3U);
+        EXPECT_EQ(readDeaths(), deaths);
+    }
     step(200);
     EXPECT_EQ(physicsModule().getGlobalScripts().size(), 1U); // the watch alone
     EXPECT_TRUE(graphicsModule().fadesFinished());
 }
 
-TEST_F(ChapterFlow, AMapThatCannotBeEnteredEndsTheProgram) {
+TEST_F(ChapterFlow, ADeathInTheLastLevelEndsTheGame) {
+    writeMap("LAST.vkl", "STARTPOS", "LVL15");
+    startInLevel({"LAST.vkl"});
+    step();
+    sceneManager().player->hurt(1000);
+    step(110);
+    EXPECT_TRUE(sceneManager().objects.empty());
+    EXPECT_EQ(levelRunning, 0);
+    EXPECT_THAT(shownWords(), HasSubstr("332"));
+    EXPECT_EQ(readDeaths(), 1);
+}
+
+TEST_F(ChapterFlow, AMissingMapIsToldInTheMenuAndEndsADirectStart) {
+    startChapter(3);
+    run("CHAPTER3");
+    step();
+    EXPECT_THAT(shownWords(), HasSubstr("line 432 (maps/CHAPTER3.vkl - no such file"));
+    EXPECT_EQ(sceneManager().player, nullptr);
+    EXPECT_EQ(levelRunning, 0);
+
+    moduleManager().running = true;
+    setModifier("START_CHAPTER", 3, moduleManager().settingsText);
     gameStart();
     EXPECT_FALSE(moduleManager().running);
     moduleManager().running = true;
-    writeMap("elsewhere");
+    writeMap("CHAPTER3.vkl");
     gameStart();
-    EXPECT_FALSE(moduleManager().running);
-    EXPECT_EQ(levelRunning, 0);
+    EXPECT_TRUE(moduleManager().running);
+    EXPECT_EQ(placeOfPlayer(), btVector3(-600.0F, 0.0F, 0.0F));
 }
 
 } // namespace
