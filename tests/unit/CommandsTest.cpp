@@ -29,13 +29,13 @@ protected:
 TEST_F(Commands, EveryCommandIsEnteredAndRunsOnAnEmptySceneAndOnSceneryWithoutABody) {
     SceneObjectDescription scenery;
     scenery.physical = false;
-    for (const auto table :
-         {commonCommands(), chapter01Commands(), chapter06Commands(), chapter07Commands()}) {
+    for (const auto table : {commonCommands(), chapter01Commands(), chapter02Commands(),
+                             chapter03Commands(), chapter06Commands(), chapter07Commands()}) {
         for (const NamedCommand& command : table) {
             EXPECT_TRUE(callbackTable().contains(command.name)) << command.name;
             run(command.name);
             step();
-            EXPECT_TRUE(sceneManager().objects.empty());
+            sceneManager().clearScene(); // some bring monsters wherever they run
             auto* box = new SceneObject(makeBoxParts(scenery, 0, 0, 5, 5));
             sceneManager().addSceneObject(box);
             run(command.name, box);

@@ -4,6 +4,7 @@ std::span<const Recipe> recipes() {
     static constexpr Recipe table[] = {
         {"click", click},
         {"smallBell", smallBell},
+        {"chime", chime},
         {"leverOn", leverOn},
         {"leverOff", leverOff},
         {"pickUp", pickUp},

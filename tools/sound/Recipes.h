@@ -18,6 +18,7 @@ std::span<const Recipe> recipes();
 // interface.cpp
 Signal click(const Take& take);
 Signal smallBell(const Take& take);
+Signal chime(const Take& take);
 Signal leverOn(const Take& take);
 Signal leverOff(const Take& take);
 Signal pickUp(const Take& take);

@@ -38,6 +38,15 @@ Signal smallBell(const Take& take) {
     return inRoom(signal, {1.2f, 0.8f, 4200, 0.3f}, take.side);
 }
 
+/// A hanging plate, tuned: the seed chooses one of five notes that go well with each other.
+Signal chime(const Take& take) {
+    constexpr float notes[] = {293.7f, 349.2f, 392.0f, 440.0f, 523.3f};
+    const float hz = notes[take.seed % std::size(notes)];
+    Signal signal = strike(material::bell(hz, 1.5f), 3600, take.chance(1));
+    add(signal, strike(material::bar(hz / 2, 1.1f, 1), 1800, take.chance(2)), 0.004f, 0.5f);
+    return inRoom(signal, {1.4f, 0.9f, 3600, 0.35f}, take.side);
+}
+
 Signal leverOn(const Take& take) {
     Signal signal = tick(310, 0.07f, take.chance(1));
     add(signal, tick(520, 0.16f, take.chance(2)), 0.085f, 1.3f);
