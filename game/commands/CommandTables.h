@@ -3,6 +3,7 @@
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
 #include <span>
+#include <vector>
 
 /// A word that scripts call by name.
 struct NamedCommand {
@@ -28,6 +29,9 @@ std::span<const NamedCommand> chapter13Commands();
 std::span<const NamedCommand> chapter14Commands();
 std::span<const NamedCommand> chapter15Commands();
 std::span<const NamedCommand> secretCommands();
+
+/// All of the above, in that order.
+std::vector<std::span<const NamedCommand>> commandTables();
 
 /// Enters a table into `callbackTable`.
 void addCommands(std::span<const NamedCommand> commands);

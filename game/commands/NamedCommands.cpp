@@ -10,28 +10,22 @@ void addCommands(std::span<const NamedCommand> commands) {
     }
 }
 
+std::vector<std::span<const NamedCommand>> commandTables() {
+    return {commonCommands(),    chapter01Commands(), chapter02Commands(), chapter03Commands(),
+            chapter04Commands(), chapter05Commands(), chapter06Commands(), chapter07Commands(),
+            chapter08Commands(), chapter09Commands(), chapter10Commands(), chapter11Commands(),
+            chapter12Commands(), chapter13Commands(), chapter14Commands(), chapter15Commands(),
+            secretCommands()};
+}
+
 void registerNamedCommands() {
     static bool registered = false;
     if (registered) { // the table outlives the scene manager, of which tests make many
         return;
     }
     registered = true;
-    addCommands(commonCommands());
-    addCommands(chapter01Commands());
-    addCommands(chapter02Commands());
-    addCommands(chapter03Commands());
-    addCommands(chapter04Commands());
-    addCommands(chapter05Commands());
-    addCommands(chapter06Commands());
-    addCommands(chapter07Commands());
-    addCommands(chapter08Commands());
-    addCommands(chapter09Commands());
-    addCommands(chapter10Commands());
-    addCommands(chapter11Commands());
-    addCommands(chapter12Commands());
-    addCommands(chapter13Commands());
-    addCommands(chapter14Commands());
-    addCommands(chapter15Commands());
-    addCommands(secretCommands());
+    for (const std::span<const NamedCommand> table : commandTables()) {
+        addCommands(table);
+    }
     registerTitles();
 }

@@ -77,7 +77,7 @@ void GameInput::key(int key, int action) {
         return;
     }
     if (key == platform::keyEscape && action == platform::pressed) {
-        toggleGameMenu();
+        togglePauseMenu();
     } else if (movementLocked == 1) {
         player->stopKeys();
     } else {

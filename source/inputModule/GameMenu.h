@@ -1,5 +1,6 @@
 #pragma once
 
-/// Opens the in-game menu, or closes it. Defined in game/: a fixed call upward, as Escape belongs
-/// to the story.
-void toggleGameMenu();
+/// Opens the pause menu, with the world standing still and dark behind it, or closes whatever panel
+/// is open and goes on. Does not open during a fade. Defined in game/: a fixed call upward, as
+/// Escape belongs to the story.
+void togglePauseMenu();

@@ -123,6 +123,10 @@ void InputModule::forget(const InputObject* object) {
     if (tipFrame == object) {
         tipFrame = nullptr;
     }
+    if (rebindLabel != nullptr && rebindLabel == object->graphics) {
+        rebindLabel = nullptr; // closed in the middle of a binding, which ends with it
+        rebinding = 0;
+    }
 }
 
 bool InputModule::isOpen(const InputFrame* frame) const {

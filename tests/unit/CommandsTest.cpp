@@ -29,8 +29,7 @@ protected:
 TEST_F(Commands, EveryCommandIsEnteredAndRunsOnAnEmptySceneAndOnSceneryWithoutABody) {
     SceneObjectDescription scenery;
     scenery.physical = false;
-    for (const auto table : {commonCommands(), chapter01Commands(), chapter02Commands(),
-                             chapter03Commands(), chapter06Commands(), chapter07Commands()}) {
+    for (const auto table : commandTables()) {
         for (const NamedCommand& command : table) {
             EXPECT_TRUE(callbackTable().contains(command.name)) << command.name;
             run(command.name);

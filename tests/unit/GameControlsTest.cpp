@@ -86,6 +86,8 @@ TEST_F(GameControlsTest, EscapeIsForThePlayersMenuEvenWhileLocked) {
     press(platform::keyEscape);
     EXPECT_TRUE(inputModule().getFrames().empty()) << "without a character nothing happens";
     addPlayer(0, 0);
+    graphicsModule().screenFade->setColour(0, 0, 0, 0); // not while the program fades up
+    graphicsModule().sceneFade->setColour(0, 0, 0, 0);
     movementLocked = 1;
     press(platform::keyEscape);
     EXPECT_FALSE(physicsModule().active);

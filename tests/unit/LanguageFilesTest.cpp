@@ -46,6 +46,31 @@ protected:
         return numbers;
     }
 
+    /// From lines such as "# Chapter 2: title 76; intro 85-87" and what continues them.
+    static std::set<int> allottedNumbers() {
+        std::istringstream head(contentsOf(TOLMERE_CONTENT "/languages/lang_eng.txt"));
+        const std::regex heading("# (?:Menu|How to play|Chapter [0-9]+|Secrets[^:]*):|#  ");
+        const std::regex range("(TALK)?([0-9]+)(?:-([0-9]+))?");
+        std::set<int> numbers;
+        for (std::string line; std::getline(head, line) && line.starts_with('#');) {
+            std::smatch start;
+            if (!std::regex_search(line, start, heading, std::regex_constants::match_continuous)) {
+                continue;
+            }
+            const std::string rest = start.suffix();
+            for (std::sregex_iterator found(rest.begin(), rest.end(), range), end; found != end;
+                 ++found) {
+                const std::smatch& m = *found;
+                const int first = m[1].matched ? 0 : std::stoi(m[2]);
+                const int last = m[3].matched ? std::stoi(m[3]) : first;
+                for (int n = first; n > 0 && n <= last; ++n) {
+                    numbers.insert(n);
+                }
+            }
+        }
+        return numbers;
+    }
+
     /// Runs the builder on that source. Returns its exit status; what it says goes to `said`.
     int build(const std::string& source) {
         directory.write("in.txt", source);
@@ -60,16 +85,18 @@ protected:
     std::string said;
 };
 
-TEST_F(LanguageFilesTest, AllLanguagesHoldTheSameTexts) {
+// The head of the English source says who speaks which texts: the commands are written by it.
+TEST_F(LanguageFilesTest, AllLanguagesHoldTheTextsThatTheGameAllots) {
+    const std::set<int> allotted = allottedNumbers();
+    EXPECT_EQ(allotted.size(), 396U) << "the game asks for every number up to 396";
     load(languageFiles[0]);
     const std::set<int> numbers = definedNumbers();
-    for (int needed : {18, 29, 390, 391, 393, 394, 400}) {
-        EXPECT_TRUE(numbers.contains(needed)) << needed;
-    }
     for (const char* name : languageFiles) {
         load(name);
         EXPECT_EQ(definedNumbers(), numbers) << name;
-        EXPECT_GE(languageTable.size(), 394U) << name;
+        for (int number : allotted) {
+            EXPECT_TRUE(numbers.contains(number)) << name << " " << number;
+        }
     }
 }
 
@@ -91,7 +118,8 @@ TEST_F(LanguageFilesTest, TipsFitOnTwoRows) {
     for (const char* name : languageFiles) {
         load(name);
         for (int n : definedNumbers()) {
-            EXPECT_LE(text(n).size(), 110U) << name << " " << n;
+            const bool menuPage = n == 54 || n == 259; // paragraphs of panels
+            EXPECT_LE(text(n).size(), menuPage ? 250U : 110U) << name << " " << n;
         }
     }
 }

@@ -13,7 +13,7 @@
 class LanguageFile {
 public:
     /// The game asks for the texts up to this number.
-    static constexpr int lastNumber = 394;
+    static constexpr int lastNumber = 396;
 
     /// Raises a string with file and line on a line without a number, on a number that was given
     /// before, and on a letter that the game cannot draw. `name` is used in these messages.

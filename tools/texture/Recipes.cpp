@@ -12,7 +12,8 @@ std::span<const Recipe> recipes() {
         {"white", paintWhite},     {"slider", paintSlider}, {"cursor", paintCursor},
         {"haze", paintHaze},       {"pillar", paintPillar}, {"arch", paintArch},
         {"cone", paintCone},       {"fire", paintFire},     {"water", paintWater},
-        {"liana", paintLiana},
+        {"liana", paintLiana},     {"logo", paintLogo},     {"padmap", paintPadMap},
+        {"oldOne", paintOldOne},
     };
     return table;
 }

@@ -38,6 +38,7 @@ void paintBody(Canvas& canvas, std::uint32_t seed);
 void paintFarLeg(Canvas& canvas, std::uint32_t seed);
 void paintNearLeg(Canvas& canvas, std::uint32_t seed);
 void paintArm(Canvas& canvas, std::uint32_t seed);
+void paintOldOne(Canvas& canvas, std::uint32_t seed);
 // particles.cpp
 void paintDrop(Canvas& canvas, std::uint32_t seed);
 void paintDust(Canvas& canvas, std::uint32_t seed);
@@ -52,6 +53,10 @@ void paintWater(Canvas& canvas, std::uint32_t seed);
 void paintWhite(Canvas& canvas, std::uint32_t seed);
 void paintSlider(Canvas& canvas, std::uint32_t seed);
 void paintCursor(Canvas& canvas, std::uint32_t seed);
+// logo.cpp
+void paintLogo(Canvas& canvas, std::uint32_t seed);
+// padmap.cpp
+void paintPadMap(Canvas& canvas, std::uint32_t seed);
 // backdrop.cpp
 void paintHaze(Canvas& canvas, std::uint32_t seed);
 void paintPillar(Canvas& canvas, std::uint32_t seed);

@@ -153,7 +153,66 @@ void paintLeg(Canvas& canvas, std::uint32_t seed, float hipX, bool near) {
     });
 }
 
+// Years take the colour out of fur, and leave the eye some of its own.
+void turnGrey(Canvas& canvas) {
+    for (int row = 0; row < canvas.height(); ++row) {
+        for (int column = 0; column < canvas.width(); ++column) {
+            Colour& c = canvas.at(column, row);
+            float light = 0.30f * c.r + 0.50f * c.g + 0.20f * c.b;
+            c = mix(c, Colour{light * 1.06f, light * 1.06f, light * 1.10f, c.a}, 0.80f);
+        }
+    }
+}
+
+// A lid that has grown heavy, a brow over it, and a beard that has seen soup.
+void paintAge(Canvas& canvas, const Units& units, const Noise& noise) {
+    const Colour shadow{0.20f, 0.20f, 0.24f}, silver{0.86f, 0.87f, 0.92f};
+    layer(canvas, units, [&](float x, float y) {
+        float ball = shape::disc(x + 3.6f, y - 4.3f, 6.5f);
+        float lid = 4.6f - 0.10f * (x + 3.6f) - y;
+        float fine = noise.value(x / 32 + 0.5f, y / 32 + 0.5f, {90, 20});
+        Colour c = mix(shadow, silver, 0.24f + 0.35f * ramp(4.0f, 10.0f, y) + 0.12f * fine);
+        c = mix(c, shadow * 0.5f, ramp(-0.9f, -0.1f, lid));
+        return c.fade(units.coverage(std::max(ball, lid)));
+    });
+    struct Tuft {
+        float ax, ay, bx, by, thick;
+    };
+    constexpr Tuft tufts[] = {
+        {-9.5f, 8.6f, -3.4f, 10.4f, 1.3f},   {-4.0f, 10.3f, 2.6f, 9.3f, 1.4f},
+        {1.0f, 9.8f, 4.6f, 7.6f, 0.9f},      {-10.2f, -4.6f, -11.0f, -9.8f, 2.0f},
+        {-7.6f, -5.8f, -8.6f, -12.6f, 2.4f}, {-4.6f, -6.2f, -5.4f, -13.4f, 2.4f},
+        {-1.6f, -6.0f, -2.4f, -11.2f, 2.2f}, {-9.0f, -3.2f, -3.0f, -3.6f, 1.0f}};
+    layer(canvas, units, [&](float x, float y) {
+        float d = 9.0f;
+        for (const Tuft& t : tufts) {
+            d = std::min(d, shape::capsule(x, y, t.ax, t.ay, t.bx, t.by, t.thick, 0.35f));
+        }
+        float hair = noise.value(x / 32 + 0.5f + 0.02f * y, y / 32 + 0.5f, {72, 7});
+        Colour c =
+            mix(shadow, silver, mix(0.35f, 1.0f, hair) * mix(0.7f, 1.0f, ramp(0.0f, -0.9f, d)));
+        return c.fade(units.coverage(d));
+    });
+}
+
 } // namespace
+
+// The old one is one picture with legs and a stick, as it only stands and speaks.
+void paintOldOne(Canvas& canvas, std::uint32_t seed) {
+    Noise noise(seed);
+    Units units(canvas, 16);
+    paintFarLeg(canvas, seed);
+    paintBody(canvas, seed);
+    paintNearLeg(canvas, seed);
+    turnGrey(canvas);
+    paintAge(canvas, units, noise);
+    layer(canvas, units, [&](float x, float y) {
+        float stick = shape::capsule(x, y, -13.2f, -14.6f, -12.4f, 1.0f, 0.75f, 0.85f);
+        float knob = shape::disc(x + 12.4f, y - 1.4f, 1.7f);
+        Colour c = palette::timber * mix(0.65f, 1.35f, ramp(-0.6f, 0.7f, -x - 12.6f));
+        return c.fade(units.coverage(std::min(stick, knob)));
+    });
+}
 
 void paintBody(Canvas& canvas, std::uint32_t seed) {
     Noise noise(seed);
