@@ -11,13 +11,11 @@
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/Bodies.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
-#include "sceneManager/So_Addons/Contacts.h"
 #include "sceneManager/So_Addons/ForcefieldAdd.h"
 #include "soundModule/SoundManager.h"
 
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
-#include <algorithm>
 #include <array>
 
 // The water works: three jets fill a funnel, the funnel the pool, and the pool turns a wheel that
@@ -50,15 +48,6 @@ constexpr int loud = 128;
 constexpr unsigned sparkCount = 30;
 const std::string bubbling = "bubbling.wav";
 
-bool touchesPlayer(const SceneObject& object) {
-    const auto manifolds = manifoldsOf(&object);
-    return std::any_of(manifolds.begin(), manifolds.end(), [&](const btPersistentManifold* one) {
-        const Contact contact = contactOf(&object, *one);
-        return contact.other != nullptr && contact.other == sceneManager().player &&
-               contact.pointsWithin(0.0) > 0;
-    });
-}
-
 bool pushes(const SceneObject* stream) {
     return stream != nullptr && stream->findAddition(AdditionType::forcefield) != nullptr;
 }
@@ -79,7 +68,7 @@ bool turnValves() {
     for (const Jet& jet : jets) {
         const SceneObject* valve = sceneManager().getSceneObject(jet.valve);
         SceneObject* stream = sceneManager().getSceneObject(jet.stream);
-        if (valve != nullptr && !pushes(stream) && touchesPlayer(*valve)) {
+        if (valve != nullptr && !pushes(stream) && touchesProtagonist(valve)) {
             startStream(stream, jet.stream, jet.power, jet.rate);
             colourLight(jet.valve, 0.2F, 1.0F, 0.5F)(nullptr, nullptr);
             soundManager().playAt("switch.wav",

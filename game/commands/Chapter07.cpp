@@ -95,20 +95,9 @@ ScriptCallback teleporter(std::string place) {
     return [place = std::move(place)](SceneObject*, So_Addition*) { teleportTo(place); };
 }
 
-bool touchesProtagonist(const SceneObject* owner) {
-    for (const btPersistentManifold* manifold : manifoldsOf(owner)) {
-        const Contact contact = contactOf(owner, *manifold);
-        if (contact.other != nullptr && contact.other == sceneManager().player &&
-            contact.pointsWithin(1.0) > 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// The way out, once it has power: a checkpoint lies behind it.
 void leaveByTeleporter(SceneObject* owner, So_Addition*) {
-    if (touchesProtagonist(owner)) {
+    if (touchesProtagonist(owner, 1.0)) {
         teleportTo("WYTELDEST");
         runScript("LOCK DELAY 30 SAVEGAME REMOVESCRIPT");
     }
@@ -198,8 +187,8 @@ void giveWay(SceneObject* owner, So_Addition* link) {
         endLoop(owner, link);
         return;
     }
-    const bool pushed =
-        touchesProtagonist(owner) && isStrong(*player) && (player->keys & playerKey::right) != 0;
+    const bool pushed = touchesProtagonist(owner, 1.0) && isStrong(*player) &&
+                        (player->keys & playerKey::right) != 0;
     if (pushed && owner->physicsObject->moveTowards(target.x(), target.y(), pushStep)) {
         endLoop(owner, link);
     }

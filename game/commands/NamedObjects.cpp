@@ -4,12 +4,15 @@
 #include "graphicsModule/ParticleEmiter.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/Bodies.h"
 #include "sceneManager/So_Addons/Contacts.h"
 #include "soundModule/SoundManager.h"
 
 #include <BulletDynamics/Dynamics/btRigidBody.h>
+
+#include <algorithm>
 
 PhysicsObject* physicsOf(const std::string& object) {
     const SceneObject* found = sceneManager().getSceneObject(object);
@@ -40,6 +43,15 @@ SceneObject* touchWithin(const SceneObject* object, const std::string& name) {
         }
     }
     return nullptr;
+}
+
+bool touchesProtagonist(const SceneObject* object, double slack) {
+    const auto manifolds = manifoldsOf(object);
+    return std::any_of(manifolds.begin(), manifolds.end(), [&](const btPersistentManifold* one) {
+        const Contact contact = contactOf(object, *one);
+        return contact.other != nullptr && contact.other == sceneManager().player &&
+               contact.pointsWithin(slack) > 0;
+    });
 }
 
 bool releaseJoint(const std::string& object) {

@@ -19,6 +19,9 @@ void putAt(SceneObject& object, const btVector3& place);
 /// other's shape; null if there is none.
 SceneObject* touchWithin(const SceneObject* object, const std::string& name);
 
+/// Whether the object touches the protagonist, within that margin and so many world units more.
+bool touchesProtagonist(const SceneObject* object, double slack = 0.0);
+
 /// Takes away the first joint of the named object. False if there was none.
 bool releaseJoint(const std::string& object);
 
