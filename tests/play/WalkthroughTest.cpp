@@ -71,8 +71,13 @@ void playThroughSaves(const std::string& path, GameDriver& game) {
     }
 }
 
-/// The chapters from the second on that have a walkthrough.
+/// The chapters from the second on that have a walkthrough. Where every step takes ten times as
+/// long, as under the sanitizers, three short ones stand for all: heat and machines, water, and
+/// monsters in daylight.
 std::vector<int> chaptersToWalk() {
+    if constexpr (!TOLMERE_ALL_CHAPTERS) {
+        return {4, 5, 14};
+    }
     std::vector<int> numbers;
     for (int number = 2; number <= chapterCount; ++number) {
         const std::string name = "/CHAPTER" + std::to_string(number) + ".walk";
