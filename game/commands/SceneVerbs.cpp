@@ -44,14 +44,15 @@ ScriptCallback setHiding(std::string object, bool gone) {
 
 } // namespace
 
-ScriptCallback moveLoop(std::string object, float x, float y, float step, ScriptCallback arrived) {
+ScriptCallback moveLoop(const std::string& object, float x, float y, float step,
+                        const ScriptCallback& arrived) {
     return [=](SceneObject*, So_Addition* link) {
         moveOn(physicsOf(object), btVector3(x, y, 0.0F), step, arrived, link);
     };
 }
 
-ScriptCallback moveLoopTo(std::string object, std::string destination, float step,
-                          ScriptCallback arrived) {
+ScriptCallback moveLoopTo(const std::string& object, const std::string& destination, float step,
+                          const ScriptCallback& arrived) {
     return [=](SceneObject*, So_Addition* link) {
         btVector3 target;
         PhysicsObject* physics = placeOf(destination, target) ? physicsOf(object) : nullptr;
@@ -87,7 +88,7 @@ ScriptCallback emit(std::string object, float rate) {
     };
 }
 
-ScriptCallback colourLight(std::string object, float r, float g, float b) {
+ScriptCallback colourLight(const std::string& object, float r, float g, float b) {
     return [=](SceneObject*, So_Addition*) {
         if (auto* light = additionOf<LightAdd>(object, AdditionType::light)) {
             LightProperties look = light->getProperties();

@@ -43,7 +43,8 @@ ScriptCallback stopSound(std::string name) {
     return [name = std::move(name)](SceneObject*, So_Addition*) { soundManager().stopAll(name); };
 }
 
-ScriptCallback dustAt(std::string object, float dx, float dy, unsigned count, std::string sound) {
+ScriptCallback dustAt(const std::string& object, float dx, float dy, unsigned count,
+                      const std::string& sound) {
     return [=](SceneObject*, So_Addition*) {
         btVector3 place;
         if (placeOf(object, place)) {
@@ -81,7 +82,7 @@ ScriptCallback tip(int line, int steps) {
                   " TIP -1 REMOVESCRIPT");
 }
 
-ScriptCallback thought(std::string object, int line, std::string after) {
+ScriptCallback thought(const std::string& object, int line, const std::string& after) {
     return [=](SceneObject*, So_Addition*) {
         SceneObject* place = sceneManager().getSceneObject(object);
         if (place == nullptr) {

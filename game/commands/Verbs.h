@@ -27,7 +27,8 @@ ScriptCallback flatSound(std::string name, int volume);
 ScriptCallback stopSound(std::string name);
 
 /// Dust at an offset from the named object, and a sound from there.
-ScriptCallback dustAt(std::string object, float dx, float dy, unsigned count, std::string sound);
+ScriptCallback dustAt(const std::string& object, float dx, float dy, unsigned count,
+                      const std::string& sound);
 
 /// A line of the language table, or a pause.
 struct Speech {
@@ -48,15 +49,15 @@ ScriptCallback tip(int line, int steps);
 /// A thought of the protagonist, once in a level: the world stops, the scene goes white, the line
 /// stands until a key, and then the word `after`, if there is one, is run. The object, on which the
 /// thought hangs, loses its additions.
-ScriptCallback thought(std::string object, int line, std::string after);
+ScriptCallback thought(const std::string& object, int line, const std::string& after);
 
 /// A loop that moves a static object by at most `step` units a step, and runs `arrived`, if there
 /// is one, when it is there.
-ScriptCallback moveLoop(std::string object, float x, float y, float step,
-                        ScriptCallback arrived = {});
+ScriptCallback moveLoop(const std::string& object, float x, float y, float step,
+                        const ScriptCallback& arrived = {});
 /// The same, to the place of another object.
-ScriptCallback moveLoopTo(std::string object, std::string destination, float step,
-                          ScriptCallback arrived = {});
+ScriptCallback moveLoopTo(const std::string& object, const std::string& destination, float step,
+                          const ScriptCallback& arrived = {});
 /// Takes away the first joint of the named object: what it held falls.
 ScriptCallback release(std::string object);
 
@@ -71,7 +72,7 @@ ScriptCallback remove(std::string object);
 ScriptCallback emit(std::string object, float rate);
 
 /// Colour of the first light of the named object, 0 to 1 each.
-ScriptCallback colourLight(std::string object, float r, float g, float b);
+ScriptCallback colourLight(const std::string& object, float r, float g, float b);
 
 /// Where ambient light goes, 0 to 1 each.
 ScriptCallback ambient(float r, float g, float b);

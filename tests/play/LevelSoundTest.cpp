@@ -44,7 +44,7 @@ constexpr std::array chapter1{
     HeardAt{"grind.wav", 10360, 10440, 15},    // the door goes up
     HeardAt{"minibell.wav", 10360, 10420, 40}, // and rings the bell
     HeardAt{"foot0.wav", 11030, 11210, 12},    // a landing
-    HeardAt{"minibell.wav", 11530, 11580, 90},
+    HeardAt{"minibell.wav", 11530, 11580, 40},
     HeardAt{"pick.wav", 7800, 7850, 50},     // the crate, in hand
     HeardAt{"anxiety5.wav", 8700, 8780, 60}, // the gong
     HeardAt{"plum#.wav", 8690, 8900, 10},    // a stone, or who comes after it, into the water
