@@ -20,7 +20,7 @@ constexpr int shortLine = 100;
 constexpr int longLine = 160;
 
 /// The lines from the first to the last, with pauses between them.
-std::vector<Speech> monologue(std::vector<int> lines, int steps) {
+std::vector<Speech> monologue(const std::vector<int>& lines, int steps) {
     std::vector<Speech> said;
     for (const int line : lines) {
         said.push_back({line, steps});
