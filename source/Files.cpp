@@ -52,24 +52,23 @@ std::string readFile(const std::string& path) {
     return content;
 }
 
-void writeFile(const std::string& text, const std::string& path) {
-    switch (platform::replaceFile(path, text)) {
-    case platform::ReplaceResult::replaced:
-        return;
-    case platform::ReplaceResult::notOpened:
+/// False if the file could not be written to its end; the old one stays then.
+static bool replaceFile(const std::string& text, const std::string& path) {
+    const platform::ReplaceResult result = platform::replaceFile(path, text);
+    if (result == platform::ReplaceResult::notOpened) {
         throwNotFound(path);
-    case platform::ReplaceResult::failed:
+    }
+    return result == platform::ReplaceResult::replaced;
+}
+
+void writeFile(const std::string& text, const std::string& path) {
+    if (!replaceFile(text, path)) {
         endProcess("fwrite");
     }
 }
 
 void storeFile(const std::string& text, const std::string& path) {
-    switch (platform::replaceFile(path, text)) {
-    case platform::ReplaceResult::replaced:
-        return;
-    case platform::ReplaceResult::notOpened:
-        throwNotFound(path);
-    case platform::ReplaceResult::failed:
+    if (!replaceFile(text, path)) {
         throw path + " - " + std::strerror(errno);
     }
 }
