@@ -2,26 +2,44 @@
 #include "Ratio.h"
 
 #include "ProcessValues.h"
+#include "game/commands/NamedObjects.h"
 #include "game/flow/ChapterFlow.h"
-#include "game/flow/Progress.h"
+#include "game/flow/GameEntry.h"
+#include "game/flow/Levels.h"
 #include "physicsModule/PhysicsModule.h"
+#include "physicsModule/PhysicsObject.h"
+#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/MapFile.h"
-#include "sceneManager/Player.h"
+#include "sceneManager/SceneManager.h"
+#include "sceneManager/TestPlayer.h"
+
+#include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <filesystem>
 
 // What our step adds to Bullet's in the levels as they are played: each chapter at its start
-// against a bare world of the same bodies and joints.
+// against a bare world of the same bodies and joints, the user's character among them.
+
+/// Another one like the user's character, at the same place.
+static SceneObject* makeTwin(const Player& character) {
+    Player* twin = character.type == sceneObjectType::evilPlayer
+                       ? static_cast<Player*>(new EvilPlayer)
+                       : static_cast<Player*>(new TestPlayer);
+    putAt(*twin, character.physicsObject->body->getWorldTransform().getOrigin());
+    return twin;
+}
 
 static void chapterStep(benchmark::State& state) {
-    const std::string map = "CHAPTER" + std::to_string(state.range(0)) + ".vkl";
-    if (!std::filesystem::exists(dataPrefix + "maps/" + map)) {
+    const Level level = levelOf(static_cast<int>(state.range(0)));
+    const std::string path = dataPrefix + "maps/" + level.map;
+    if (!std::filesystem::exists(path)) {
         state.SkipWithError("no such map");
         return;
     }
     registerFlowCommands();
-    enterMap(map);
-    const SceneBundle bundle = loadMapFile(dataPrefix + "maps/" + map, false);
+    startInLevel(level);
+    SceneBundle bundle = loadMapFile(path, false);
+    bundle.objects.push_back(makeTwin(*sceneManager().player));
     {
         BareWorld bare;
         for (const SceneObject* object : bundle.objects) {

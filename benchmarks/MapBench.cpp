@@ -1,6 +1,7 @@
 #include "Ratio.h"
 
 #include "Files.h"
+#include "ProcessValues.h"
 #include "TextStream.h"
 #include "graphicsModule/TextureStore.h"
 #include "sceneManager/MapFile.h"
@@ -11,6 +12,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -114,22 +117,30 @@ void readTokens(benchmark::State& state) {
         [&] { benchmark::DoNotOptimize(bareTokens(text)); });
 }
 
-void readScene(benchmark::State& state) {
-    fillScene();
-    const std::string text = sceneText();
-    sceneManager().clearScene();
+/// Reading a scene of that text against reading its numbers.
+void compareReading(benchmark::State& state, const std::string& text,
+                    const std::function<SceneBundle()>& read) {
     compare(
         state, 3, 3.0,
         [&] {
-            TextReader reader(text);
-            SceneBundle bundle = parseScene(reader, false);
+            const SceneBundle bundle = read();
             benchmark::DoNotOptimize(bundle.objects.data());
         },
         [&] { benchmark::DoNotOptimize(bareTokens(text)); });
 }
 
-void printAndPack(benchmark::State& state) {
+void readScene(benchmark::State& state) {
     fillScene();
+    const std::string text = sceneText();
+    sceneManager().clearScene();
+    compareReading(state, text, [&] {
+        TextReader reader(text);
+        return parseScene(reader, false);
+    });
+}
+
+/// Storing the scene against printing and packing its numbers.
+void compareStoring(benchmark::State& state, const std::function<void()>& store) {
     const std::string text = sceneText();
     std::vector<float> values;
     TextReader reader(text);
@@ -140,28 +151,55 @@ void printAndPack(benchmark::State& state) {
             values.push_back(reader.read<float>());
         }
     }
-    compare(
-        state, 3, 1.2,
-        [] {
-            std::string packed;
-            const std::string printed = sceneText();
-            compress(printed.data(), printed.size(), packed);
-            benchmark::DoNotOptimize(packed.data());
-        },
-        [&] {
-            std::string printed;
-            std::array<char, 32> digits{};
-            for (const float value : values) {
-                const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                               std::chars_format::general, 6);
-                printed.append(digits.data(), end.ptr);
-                printed += ' ';
-            }
-            std::string packed;
-            snappy::Compress(printed.data(), printed.size(), &packed);
-            benchmark::DoNotOptimize(packed.data());
-        });
+    compare(state, 3, 1.2, store, [&] {
+        std::string printed;
+        std::array<char, 32> digits{};
+        for (const float value : values) {
+            const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                           std::chars_format::general, 6);
+            printed.append(digits.data(), end.ptr);
+            printed += ' ';
+        }
+        std::string packed;
+        snappy::Compress(printed.data(), printed.size(), &packed);
+        benchmark::DoNotOptimize(packed.data());
+    });
     sceneManager().clearScene();
+}
+
+void printAndPack(benchmark::State& state) {
+    fillScene();
+    compareStoring(state, [] {
+        std::string packed;
+        const std::string printed = sceneText();
+        compress(printed.data(), printed.size(), packed);
+        benchmark::DoNotOptimize(packed.data());
+    });
+}
+
+std::string largestMap() {
+    const std::filesystem::directory_iterator maps(dataPrefix + "maps");
+    return std::max_element(
+               begin(maps), end(maps),
+               [](const auto& a, const auto& b) { return a.file_size() < b.file_size(); })
+        ->path()
+        .string();
+}
+
+void loadLargestMap(benchmark::State& state) {
+    const std::string path = largestMap();
+    const std::string packed = readFile(path);
+    std::string text;
+    uncompress(packed.data(), packed.size(), text);
+    compareReading(state, text, [&] { return loadMapFile(path, false); });
+}
+
+void saveLargestMap(benchmark::State& state) {
+    sceneManager().addScene(loadMapFile(largestMap(), false));
+    const std::string path =
+        (std::filesystem::temp_directory_path() / "tolmere-bench-save.vkl").string();
+    compareStoring(state, [&] { sceneManager().saveMap(path); });
+    std::filesystem::remove(path);
 }
 
 } // namespace
@@ -169,3 +207,5 @@ void printAndPack(benchmark::State& state) {
 BENCHMARK(readTokens)->Iterations(1);
 BENCHMARK(readScene)->Iterations(1);
 BENCHMARK(printAndPack)->Iterations(1);
+BENCHMARK(loadLargestMap)->Iterations(1);
+BENCHMARK(saveLargestMap)->Iterations(1);

@@ -94,9 +94,9 @@ void PhysicsModule::updateScene() {
     }
     soundManager().heartCount = 0; // whoever wants the heartbeat asks for it again in each step
     // By index: objects that are added meanwhile run in the same pass.
-    const std::vector<SceneObject*>& objects = sceneManager().objects;
+    const std::vector<SceneObject*>& actors = sceneManager().getActors();
     // NOLINTNEXTLINE(modernize-loop-convert)
-    for (std::size_t i = 0; i < objects.size(); ++i) {
-        objects[i]->update();
+    for (std::size_t i = 0; i < actors.size(); ++i) {
+        actors[i]->update();
     }
 }

@@ -52,7 +52,8 @@ ReplaceResult replaceFile(const std::string& path, std::string_view bytes) {
     if (!mayReplace(path, mode)) {
         return ReplaceResult::notOpened;
     }
-    const std::string temporary = path + ".new";
+    // Two programs may share a folder: each has a file of its own to fill.
+    const std::string temporary = path + "." + std::to_string(getpid()) + ".new";
     const int file =
         open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, mode);
     if (file < 0) {

@@ -45,6 +45,12 @@ void fade(GraphicsObject& graphics) {
     graphics.setColour(red, green, blue, alpha - debrisFadeStep);
 }
 
+void forgetName(const SceneObject& object) {
+    if (object.findAddition(AdditionType::objectName) != nullptr) {
+        NameIndex::forget();
+    }
+}
+
 void registerCommandsOnce() {
     [[maybe_unused]] static const bool registered = (registerNamedCommands(), true);
 }
@@ -76,6 +82,10 @@ void SceneManager::addSceneObject(SceneObject* object) {
     graphicsModule().addObject(object->graphicsObject);
     physicsModule().addPhysicsObject(object->physicsObject);
     objects.push_back(object);
+    if (object->physicsObject != nullptr || !object->additions.empty()) {
+        actors.push_back(object);
+    }
+    forgetName(*object);
 }
 
 void SceneManager::removeSceneObject(SceneObject* object) {
@@ -90,6 +100,8 @@ void SceneManager::removeSceneObject(SceneObject* object) {
     releaseCamera(object);
     releaseParts(object);
     objects.erase(place);
+    std::erase(actors, object);
+    forgetName(*object);
     delete object;
 }
 
@@ -132,9 +144,7 @@ void SceneManager::ageDebris() {
 }
 
 SceneObject* SceneManager::getSceneObject(const std::string& name) const {
-    const auto place = std::find_if(objects.begin(), objects.end(),
-                                    [&name](const SceneObject* o) { return o->hasName(name); });
-    return place == objects.end() ? nullptr : *place;
+    return names.find(name, objects);
 }
 
 bool SceneManager::contains(const SceneObject* object) const {

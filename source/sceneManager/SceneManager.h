@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NameIndex.h"
 #include "SceneObject.h"
 #include "Service.h"
 
@@ -70,12 +71,19 @@ public:
     std::uint32_t nextSeed() { return seedCounter += seedStep; }
     std::size_t debrisCount() const { return debris.size(); }
 
+    /// Those of the objects that have something to do in a step, in the same order: all that have a
+    /// body, or additions when they come. The others are scenery.
+    const std::vector<SceneObject*>& getActors() const { return actors; }
+
     std::vector<SceneObject*> objects; ///< Owned.
     Player* player = nullptr;          ///< The protagonist; not owned.
     int objectCounter = 0;             ///< The latest `number` of an object that moves.
 
 private:
     void releaseParts(SceneObject* object);
+
+    mutable NameIndex names;
+    std::vector<SceneObject*> actors; // not owned
 
     /// Neighbours in the order of making shall have nothing in common: the golden ratio of 2^32.
     static constexpr std::uint32_t seedStep = 2654435769U;

@@ -1,5 +1,6 @@
 #include "SceneObject.h"
 
+#include "NameIndex.h"
 #include "SceneManager.h"
 #include "So_Addons/Contacts.h"
 #include "So_Addons/HealthAdd.h"
@@ -47,6 +48,12 @@ private:
 };
 
 Graveyard graveyard;
+
+void forgetName(const So_Addition& addition) {
+    if (addition.type == AdditionType::objectName) {
+        NameIndex::forget();
+    }
+}
 
 } // namespace
 
@@ -107,18 +114,21 @@ void SceneObject::addAddition(So_Addition* addition) {
         physicsObject->wantsContacts = true;
     }
     additions.push_back(addition);
+    forgetName(*addition);
 }
 
 void SceneObject::removeAddition(So_Addition* addition) {
     const auto place = std::find(additions.begin(), additions.end(), addition);
     if (place != additions.end()) {
         additions.erase(place);
+        forgetName(*addition);
         graveyard.take(addition);
     }
 }
 
 void SceneObject::clearAdditions() {
     for (So_Addition* addition : std::exchange(additions, {})) {
+        forgetName(*addition);
         graveyard.take(addition);
     }
 }

@@ -1,6 +1,7 @@
 #include "ObjectNameAdd.h"
 
 #include "TextStream.h"
+#include "sceneManager/NameIndex.h"
 
 ObjectNameAdd::ObjectNameAdd(std::string value)
     : CallbackAdd(AdditionType::objectName),
@@ -13,6 +14,11 @@ ObjectNameAdd::ObjectNameAdd(ScriptWords& words) : CallbackAdd(AdditionType::obj
 }
 
 ObjectNameAdd::ObjectNameAdd(TextReader& stream) : ObjectNameAdd(readCountedString(stream)) {}
+
+void ObjectNameAdd::setName(std::string value) {
+    name = std::move(value);
+    NameIndex::forget();
+}
 
 void ObjectNameAdd::saveFields(TextWriter& stream) const {
     stream.writeCounted(name);

@@ -14,7 +14,7 @@ public:
     explicit ObjectNameAdd(TextReader& stream);
 
     const std::string& getName() const { return name; }
-    void setName(std::string value) { name = std::move(value); }
+    void setName(std::string value);
 
 protected:
     bool fire(SceneObject*) override { return false; }
