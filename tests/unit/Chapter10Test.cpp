@@ -1,0 +1,93 @@
+#include "FloorFixture.h"
+
+#include "game/commands/CommandTables.h"
+#include "physicsModule/PhysicsModule.h"
+#include "physicsModule/PhysicsObject.h"
+#include "sceneManager/EvilPlayer.h"
+
+#include <algorithm>
+#include <utility>
+
+// The hunt for the little ones, and the gate that only opens by blows.
+
+namespace {
+
+class OtherSide : public FloorFixture {
+protected:
+    static SceneObject* addNamed(const std::string& name, float x, float y,
+                                 const std::string& chain = "") {
+        SceneObject* box = addBox(x, y, 10, 10, 0);
+        box->addAddition(parseScript("NAME " + name));
+        if (!chain.empty()) {
+            box->addAddition(parseScript(chain));
+        }
+        return box;
+    }
+
+    static EvilPlayer* addMonster(float x, float y) {
+        auto* monster = new EvilPlayer;
+        monster->state = EvilState::puppet;
+        monster->physicsObject->body->getWorldTransform().setOrigin({x, y, 0});
+        sceneManager().addSceneObject(monster);
+        return monster;
+    }
+
+    static SceneObject* personCalled(const std::string& name) {
+        SceneObject* found = sceneManager().getSceneObject(name);
+        return found != nullptr && found->asPlayer() != nullptr ? found : nullptr;
+    }
+};
+
+TEST_F(OtherSide, CommandsBearAnEmptyScene) {
+    for (const NamedCommand& command : chapter10Commands()) {
+        command.run(nullptr, nullptr);
+        SceneObject* box = addNamed("WROTA", 0, 100);
+        command.run(box, nullptr);
+        step(2);
+        physicsModule().removeAllScripts();
+        sceneManager().clearScene();
+    }
+}
+
+TEST_F(OtherSide, ALittleOneStandsInItsMarkersPlaceCriesOnceRunsAndDiesOfBites) {
+    addNamed("LUDZIK", 0, 30, "CH10PERSON1");
+    step(3);
+    EXPECT_EQ(sceneManager().getSceneObject("LUDZIK"), nullptr);
+    SceneObject* person = personCalled("OSOBA1");
+    ASSERT_NE(person, nullptr);
+    EXPECT_FALSE(person->asPlayer()->isSpeaking());
+
+    EvilPlayer* monster = addMonster(-150, 21);
+    const float before = originOf(*person).x();
+    step(8);
+    EXPECT_EQ(personCalled("ZBIEG1"), person);
+    EXPECT_TRUE(person->asPlayer()->isSpeaking());
+    EXPECT_GT(originOf(*person).x(), before + 5.0F) << "away from the monster";
+
+    person->asPlayer()->statistics.speed = 0.0F;
+    for (int i = 0; i < 120 && personCalled("ZBIEG1") != nullptr; ++i) {
+        monster->physicsObject->body->getWorldTransform().setOrigin(originOf(*person) +
+                                                                    btVector3(-24.5F, -4, 0));
+        step();
+    }
+    EXPECT_EQ(personCalled("ZBIEG1"), nullptr);
+}
+
+TEST_F(OtherSide, EachMonsterBeforeTheGateLiftsItAtEachBlowAndNobodyElseDoes) {
+    for (const auto& [monsters, lift] : {std::pair{0, 0.0F}, {1, 3.0F}, {3, 9.0F}}) {
+        const SceneObject* gate = addNamed("WROTA", 0, 100, "CH10WROTA2");
+        addNamed("WROTADEST", 500, 100);
+        addNamed("WROTAUP", 0, 300);
+        for (int i = 0; i < monsters; ++i) {
+            addMonster(460.0F + 40.0F * static_cast<float>(i), 90)
+                ->physicsObject->body->setLinearFactor({0, 0, 0});
+        }
+        addMonster(700, 90)->physicsObject->body->setLinearFactor({0, 0, 0});
+        const float before = originOf(*gate).y();
+        step(50);
+        EXPECT_NEAR(originOf(*gate).y() - before, lift, 0.01F) << monsters;
+        sceneManager().clearScene();
+    }
+}
+
+} // namespace
