@@ -6,8 +6,6 @@
 #include "graphicsModule/GraphicsModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
-#include "sceneManager/Equipment.h"
-#include "sceneManager/Hands.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/Bodies.h"
@@ -62,14 +60,6 @@ void capSpeed(SceneObject* owner, So_Addition*) {
     btRigidBody* body = bodyOf(owner);
     if (body != nullptr && body->getLinearVelocity().length() > greatestSpeed) {
         body->setLinearVelocity(body->getLinearVelocity().normalized() * greatestSpeed);
-    }
-}
-
-/// What a character carries stays behind.
-void emptyHands(const Player& character) {
-    EqItem* item = character.equipment->current;
-    if (item != nullptr && item->getType() == itemType::hands) {
-        static_cast<Hands*>(item)->drop(false);
     }
 }
 

@@ -47,10 +47,6 @@ constexpr unsigned flashSparks = 40;
 constexpr float gateStep = 1.5F; // units a step
 constexpr float lockStep = 4.0F;
 constexpr float enemySpeed = 190.0F; // units a second
-constexpr float ghostAhead = 90.0F;  // world units from the protagonist
-constexpr float ghostOver = 45.0F;
-constexpr float farewellSpeed = 200.0F; // of the ghost's last particles, units a second
-constexpr float farewell = 120.0F;      // particles
 
 LightAdd* lightOf(const SceneObject* object) {
     return object == nullptr ? nullptr
@@ -137,34 +133,6 @@ void remarkOnGravity(SceneObject* owner, So_Addition* link) {
     }
 }
 
-/// The ghost stands before the protagonist, who has to listen.
-ScriptCallback haunt(std::vector<Speech> lines) {
-    return [lines = std::move(lines)](SceneObject*, So_Addition*) {
-        const btRigidBody* player = bodyOf(sceneManager().player);
-        if (player == nullptr || sceneManager().getSceneObject("GHOST") != nullptr) {
-            return;
-        }
-        Player& ghost = makeGhost();
-        putAt(ghost,
-              player->getWorldTransform().getOrigin() + btVector3(ghostAhead, ghostOver, 0.0F));
-        ghost.addAddition(parseScript("NAME GHOST"));
-        sceneManager().addSceneObject(&ghost);
-        speak(ghost, lines);
-        runScript("LOCK SOUND anxiety1.wav LOCKMOVEMENT DELAY 1000 UNLOCKMOVEMENT "
-                  "CH12REMOVEGHOST REMOVESCRIPT");
-    };
-}
-
-void removeGhost(SceneObject*, So_Addition*) {
-    SceneObject* ghost = sceneManager().getSceneObject("GHOST");
-    btVector3 place;
-    if (ghost != nullptr && placeOf("GHOST", place)) {
-        burst(ghost, farewellSpeed, farewell);
-        soundManager().playAt("whisp.wav", place);
-        sceneManager().markForRemoval(ghost);
-    }
-}
-
 /// Two, that come for the protagonist, and by themselves no further than into the light.
 void callEnemies(SceneObject* owner, So_Addition* link) {
     btVector3 place;
@@ -211,7 +179,7 @@ std::span<const NamedCommand> chapter12Commands() {
         NamedCommand{"CH12WAVE4", waves::wave4},
         NamedCommand{"CH12KONIECWAVEI", waves::startEnd},
         NamedCommand{"CH12KONIECWAVE", waves::end},
-        NamedCommand{"CH12REMOVEGHOST", removeGhost},
+        NamedCommand{"CH12REMOVEGHOST", dismiss("GHOST")},
         NamedCommand{"CH12GHOST", haunt({{314, 140},
                                          {315, 120},
                                          {316, 100},

@@ -11,12 +11,18 @@
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/Bodies.h"
 #include "sceneManager/So_Addons/ObjectNameAdd.h"
+#include "soundModule/SoundManager.h"
 
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <algorithm>
 
 namespace {
+
+constexpr float hauntAhead = 90.0F; // world units from the protagonist
+constexpr float hauntOver = 45.0F;
+constexpr float farewellSpeed = 200.0F; // of a ghost's last particles, units a second
+constexpr float farewell = 120.0F;      // particles
 
 ObjectNameAdd* nameAdditionOf(const SceneObject& object) {
     return static_cast<ObjectNameAdd*>(object.findAddition(AdditionType::objectName));
@@ -90,6 +96,37 @@ ScriptCallback putGhost(const std::string& place, const std::string& name,
         ghost.addAddition(new ObjectNameAdd(name));
         ghost.addAddition(parseScript(chain));
         sceneManager().addSceneObject(&ghost);
+    };
+}
+
+ScriptCallback haunt(std::vector<Speech> lines, const std::string& after) {
+    const std::string rest = after.empty() ? "" : after + " ";
+    return [lines = std::move(lines), rest](SceneObject*, So_Addition*) {
+        const btRigidBody* player = bodyOf(sceneManager().player);
+        if (player == nullptr || sceneManager().getSceneObject("GHOST") != nullptr) {
+            return;
+        }
+        Player& ghost = makeGhost();
+        putAt(ghost,
+              player->getWorldTransform().getOrigin() + btVector3(hauntAhead, hauntOver, 0.0F));
+        ghost.addAddition(parseScript("NAME GHOST"));
+        sceneManager().addSceneObject(&ghost);
+        speak(ghost, lines);
+        runScript("LOCK SOUND anxiety1.wav LOCKMOVEMENT DELAY 1000 UNLOCKMOVEMENT "
+                  "CH12REMOVEGHOST " +
+                  rest + "REMOVESCRIPT");
+    };
+}
+
+ScriptCallback dismiss(std::string name) {
+    return [name = std::move(name)](SceneObject*, So_Addition*) {
+        SceneObject* ghost = sceneManager().getSceneObject(name);
+        btVector3 place;
+        if (ghost != nullptr && placeOf(name, place)) {
+            burst(ghost, farewellSpeed, farewell);
+            soundManager().playAt("whisp.wav", place);
+            sceneManager().markForRemoval(ghost);
+        }
     };
 }
 

@@ -30,6 +30,13 @@ ScriptCallback walk(std::vector<GhostStage> stages, float step);
 ScriptCallback putGhost(const std::string& place, const std::string& name,
                         const std::string& chain);
 
+/// A ghost named GHOST stands before the protagonist, who has to listen, and goes after 1000 steps.
+/// Then a script goes on with the words of `after`.
+ScriptCallback haunt(std::vector<Speech> lines, const std::string& after = "");
+
+/// The named ghost bursts and goes.
+ScriptCallback dismiss(std::string ghost);
+
 } // namespace verb
 
 /// The ghost of the scene: its first character that is neither protagonist nor monster. Null if

@@ -4,6 +4,8 @@
 #include "graphicsModule/ParticleEmiter.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/Equipment.h"
+#include "sceneManager/Hands.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/Bodies.h"
@@ -78,4 +80,11 @@ void burst(SceneObject* object, float speed, float particles) {
     emitter->accumulator += particles;
     emitter->update(object);
     emitter->params.speed = usual;
+}
+
+void emptyHands(const Player& character) {
+    EqItem* item = character.equipment->current;
+    if (item != nullptr && item->getType() == itemType::hands) {
+        static_cast<Hands*>(item)->drop(false);
+    }
 }

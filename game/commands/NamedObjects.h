@@ -3,6 +3,7 @@
 #include <string>
 
 class PhysicsObject;
+class Player;
 class SceneObject;
 class btVector3;
 
@@ -31,3 +32,6 @@ void zap(const btVector3& place);
 /// A single burst of so many particles at up to that speed from the first emitter of the object.
 /// The emitter's own speed stays.
 void burst(SceneObject* object, float speed, float particles);
+
+/// The character lets go of what it holds, and is heard to.
+void emptyHands(const Player& character);

@@ -1,0 +1,125 @@
+#include "support/EngineFixture.h"
+
+#include "PhysicsBodies.h"
+#include "game/commands/Monsters.h"
+#include "game/commands/NamedObjects.h"
+#include "game/flow/ChapterFlow.h"
+#include "graphicsModule/GraphicsModule.h"
+#include "physicsModule/PhysicsModule.h"
+#include "sceneManager/Equipment.h"
+#include "sceneManager/EvilPlayer.h"
+#include "sceneManager/Hands.h"
+#include "sceneManager/SceneManager.h"
+#include "sceneManager/So_Addons/CallbackAdd.h"
+#include "sceneManager/TestPlayer.h"
+
+#include <algorithm>
+
+// The fight with the ghost, hit by hit, and water that is moved.
+
+namespace {
+
+class Ghost : public EngineFixture {
+protected:
+    void SetUp() override {
+        EngineFixture::SetUp();
+        chapterFlags.fill(0);
+    }
+    void TearDown() override {
+        chapterFlags.fill(0);
+        EngineFixture::TearDown();
+    }
+
+    static SceneObject* addNamed(const std::string& name, float x, float y) {
+        SceneObject* box = addBox(x, y, 5, 5, 0);
+        box->addAddition(parseScript("NAME " + name));
+        return box;
+    }
+
+    /// One that fights and has nowhere to fly to.
+    static Player* addFighter(float x, float y) {
+        Player& ghost = makeGhost();
+        putAt(ghost, {x, y, 0});
+        ghost.addAddition(parseScript("CH13BATTLE"));
+        sceneManager().addSceneObject(&ghost);
+        return &ghost;
+    }
+
+    static TestPlayer* addProtagonist(float x, float y) {
+        auto* player = new TestPlayer;
+        putAt(*player, {x, y, 0});
+        sceneManager().addSceneObject(player);
+        sceneManager().player = player;
+        return player;
+    }
+
+    static long countMonsters() {
+        const auto& objects = sceneManager().objects;
+        return std::count_if(objects.begin(), objects.end(),
+                             [](SceneObject* object) { return EvilPlayer::of(object) != nullptr; });
+    }
+};
+
+TEST_F(Ghost, IsBeatenByTheFifthGrabAndThrowsWhoeverSeizesItAway) {
+    Player* ghost = addFighter(0, 300);
+    TestPlayer* player = addProtagonist(-25, 300);
+    auto& hands = static_cast<Hands&>(*player->equipment->current);
+    hands.primaryDown();
+    player->keys |= playerKey::primary;
+    for (int grab = 1; grab <= 5; ++grab) {
+        putAt(*player, {-25, 300, 0});
+        player->physicsObject->body->setLinearVelocity({0, 0, 0});
+        for (int i = 0; i < 60 && chapterFlags[1] < grab; ++i) {
+            putAt(*player, {-25, 300, 0});
+            step();
+        }
+        ASSERT_EQ(chapterFlags[1], grab);
+        EXPECT_EQ(hands.heldObject(), nullptr);
+        EXPECT_LT(player->physicsObject->body->getLinearVelocity().x(), -50) << "away from it";
+        EXPECT_NE(ghost->findAddition(AdditionType::customCallback), nullptr);
+    }
+    step();
+    EXPECT_EQ(ghost->findAddition(AdditionType::customCallback), nullptr);
+    EXPECT_EQ(player->statistics.health, 300);
+    EXPECT_EQ(graphicsModule().ambientTarget, (Colour3{1.0F, 0.3F, 0.3F}));
+}
+
+TEST_F(Ghost, LetsMonstersOutNowAndThenAndTauntsTheDead) {
+    Player* ghost = addFighter(0, 300);
+    addProtagonist(5000, 300);
+    long most = 0;
+    int times = 0;
+    for (int i = 0; i < 24 * 250; ++i) {
+        const long before = countMonsters();
+        step();
+        most = std::max(most, countMonsters() - before);
+        times += countMonsters() > before ? 1 : 0;
+    }
+    EXPECT_GT(times, 12);
+    EXPECT_LT(times, 24) << "sometimes it lets none out";
+    EXPECT_TRUE(most == 2 || most == 3 || most == 5);
+
+    EXPECT_FALSE(ghost->isSpeaking());
+    sceneManager().removeSceneObject(sceneManager().player);
+    sceneManager().player = nullptr;
+    step(2);
+    EXPECT_TRUE(ghost->isSpeaking());
+}
+
+TEST_F(Ghost, TheMachineStopsWhenTheWaterHasRisen) {
+    addNamed("TLOKUP", 0, 40);
+    addNamed("TLOKDOWN", 0, 0);
+    addNamed("WODADEST", 500, 80);
+    SceneObject* piston = addNamed("TLOK", 0, 40);
+    SceneObject* water = addNamed("WODA", 500, 0);
+    runScript("LOCK CH13R6 REMOVESCRIPT");
+    step(60);
+    EXPECT_NE(piston->findAddition(AdditionType::customCallback), nullptr);
+    EXPECT_GT(originOf(*water).y(), 30);
+    step(120);
+    EXPECT_FLOAT_EQ(originOf(*water).y(), 80);
+    EXPECT_EQ(piston->findAddition(AdditionType::customCallback), nullptr);
+    EXPECT_FLOAT_EQ(originOf(*piston).y(), 40) << "rests at the top";
+}
+
+} // namespace
