@@ -97,6 +97,7 @@ void spawnInShaft(SceneObject*, So_Addition*) {
 
 std::span<const NamedCommand> chapter02Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER2TEXT", verb::title(2)},
         NamedCommand{"CH2MOVE1", startPlatform("CH2MOVE1INT")},
         NamedCommand{"CH2MOVE1INT", verb::moveLoop("MOVE", 2779.0F, -1177.0F, 2.5F)},
         NamedCommand{"CH2MOVE2", startPlatform("CH2MOVE2INT")},

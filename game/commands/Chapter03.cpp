@@ -84,6 +84,7 @@ constexpr const char* gateCloses =
 
 std::span<const NamedCommand> chapter03Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER3TEXT", verb::title(3)},
         NamedCommand{"CH3SPAWN", spawnBeforeGate},
         NamedCommand{"CH3GATEP", verb::dustAt("WGATE", 40.0F, 0.0F, 50, "stomp.wav")},
         NamedCommand{"CH3BLOCKCHECKI", verb::script("CH3BLOCKCHECK")},

@@ -166,6 +166,7 @@ void startLift(SceneObject*, So_Addition*) {
 
 std::span<const NamedCommand> chapter04Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER4TEXT", verb::title(4)},
         NamedCommand{"CH4PLAT", chainOn("PLAT", "LOCK SOUND clunk1.wav DELAY 30 CH4BEATI")},
         NamedCommand{"CH4BEAT", beat},
         NamedCommand{"CH4MOVE1", moveLoop("MOVE1", 3080.0F, 60.0F, 0.2F)},

@@ -231,6 +231,7 @@ void letGasIn(SceneObject*, So_Addition*) {
 
 std::span<const NamedCommand> chapter05Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER5TEXT", verb::title(5)},
         NamedCommand{"CH5RUR", passPipe},
         NamedCommand{"CH5WODA", runWorks},
         NamedCommand{"CH5SPADI",

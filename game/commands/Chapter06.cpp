@@ -261,6 +261,7 @@ void goOn(SceneObject*, So_Addition*) {
 
 std::span<const NamedCommand> chapter06Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER6TEXT", verb::title(6)},
         NamedCommand{"CH6PUTMOVE", verb::putGhost("W1", "GHOST1", "CH6WALK")},
         NamedCommand{"CH6CGHOST",
                      verb::script("LOCK LOCKMOVEMENT SOUND mystery.wav DELAY 40 CH6PUTMOVE DELAY "

@@ -188,6 +188,7 @@ void giveWay(SceneObject* owner, So_Addition* link) {
 
 std::span<const NamedCommand> chapter07Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER7TEXT", verb::title(7)},
         NamedCommand{"CH7DAMP", brakeInside},
         NamedCommand{"CH7CAPVEL", capSpeed},
         NamedCommand{"CH7TELE", teleporter("TEL")},

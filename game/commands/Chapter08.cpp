@@ -179,6 +179,7 @@ ScriptCallback breakShield(int number, std::vector<Speech> lines) {
 
 std::span<const NamedCommand> chapter08Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER8TEXT", verb::title(8)},
         NamedCommand{"CH8BUUNREL", shutWithoutWeight},
         NamedCommand{"CH8MASSUP", massUp},
         NamedCommand{"CH8BUREL", openUnderWeight},

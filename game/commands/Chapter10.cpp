@@ -195,6 +195,7 @@ void lightGreatLamp(SceneObject* owner, So_Addition* link) {
 
 std::span<const NamedCommand> chapter10Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER10TEXT", verb::title(10)},
         NamedCommand{"CH10SKALY", rollStones},
         NamedCommand{"CH10A1", scent},
         NamedCommand{"CH10WROTA", shutGate},

@@ -162,6 +162,7 @@ void raiseExit(SceneObject* owner, So_Addition* link) {
 
 std::span<const NamedCommand> chapter12Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER12TEXT", verb::title(12)},
         NamedCommand{"CH12DECREASELIGHT", decreaseLight},
         NamedCommand{"CH12FLASH", flash},
         NamedCommand{"CH12GRAVITY", remarkOnGravity},

@@ -98,6 +98,7 @@ void beat(SceneObject* owner, So_Addition* link) {
 
 std::span<const NamedCommand> chapter13Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER13TEXT", verb::title(13)},
         NamedCommand{"CH13GHOSTSPAWNENEMY", ghosts::breatheMonster},
         NamedCommand{"CH13PUTANNOING", all({putGhost("ANPOS", "ANNOING", "CH13ANNOING"),
                                             flatSound("whisp.wav", 100)})},

@@ -212,6 +212,7 @@ ScriptCallback shine(float brightness, float everywhere) {
 
 std::span<const NamedCommand> chapter14Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER14TEXT", verb::title(14)},
         NamedCommand{"CH14SPAWN2", spawnByNight},
         NamedCommand{"CH14DZK", all({shine(0.0F, nightAmbient), flatSound("kick1.wav", 110),
                                      interrupt({{0, 40}, {585, 180}}),

@@ -24,6 +24,7 @@ void close(SceneObject*, So_Addition*) {
 
 std::span<const NamedCommand> chapter15Commands() {
     static const std::array table{
+        NamedCommand{"CHAPTER15TEXT", verb::title(15)},
         NamedCommand{"CH15CHECKSECRET", verb::script("DELAY 60 CH15CHECKSECRETS")},
         NamedCommand{"CH15CHECKSECRETS", checkNextLamp},
         NamedCommand{"CH15BRAMA1I", verb::script("CH15BRAMA1")},

@@ -1,7 +1,6 @@
 #include "NamedCommands.h"
 
 #include "CommandTables.h"
-#include "game/flow/TitleCard.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
 void addCommands(std::span<const NamedCommand> commands) {
@@ -27,5 +26,4 @@ void registerNamedCommands() {
     for (const std::span<const NamedCommand> table : commandTables()) {
         addCommands(table);
     }
-    registerTitles();
 }

@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "NamedObjects.h"
 #include "game/flow/ChapterFlow.h"
+#include "game/flow/TitleCard.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "inputModule/InputModule.h"
 #include "sceneManager/Player.h"
@@ -31,6 +32,10 @@ ScriptCallback chainOn(std::string object, std::string text) {
             found->addAddition(parseScript(text));
         }
     };
+}
+
+ScriptCallback title(int chapter) {
+    return [chapter](SceneObject*, So_Addition*) { introduceChapter(chapter); };
 }
 
 ScriptCallback flatSound(std::string name, int volume) {

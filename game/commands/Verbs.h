@@ -22,6 +22,9 @@ ScriptCallback script(std::string text);
 /// Puts a chain on the named object, in which it is saved with the scene.
 ScriptCallback chainOn(std::string object, std::string text);
 
+/// The title of a chapter, for its first seconds.
+ScriptCallback title(int chapter);
+
 /// A one-shot without place.
 ScriptCallback flatSound(std::string name, int volume);
 ScriptCallback stopSound(std::string name);

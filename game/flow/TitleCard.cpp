@@ -7,7 +7,6 @@
 #include "inputModule/InputModule.h"
 #include "platform/Window.h"
 #include "sceneManager/SceneManager.h"
-#include "sceneManager/So_Addons/CallbackAdd.h"
 
 #include <algorithm>
 #include <string>
@@ -15,13 +14,6 @@
 namespace {
 
 InputFrame* titleCard = nullptr; // not owned; stale when all frames were closed
-
-void introduceChapter(int chapter) {
-    if (sceneManager().player != nullptr) {
-        openTitleCard(chapter);
-        runScript("LOCK DELAY 300 ENDCHAPTER REMOVESCRIPT");
-    }
-}
 
 } // namespace
 
@@ -41,6 +33,13 @@ void closeTitleCard() {
     }
 }
 
+void introduceChapter(int chapter) {
+    if (sceneManager().player != nullptr) {
+        openTitleCard(chapter);
+        runScript("LOCK DELAY 300 ENDCHAPTER REMOVESCRIPT");
+    }
+}
+
 void introduceFirstChapter() {
     if (sceneManager().player == nullptr) {
         return;
@@ -49,11 +48,4 @@ void introduceFirstChapter() {
     const std::string controls = platform::window().isJoystickPresent() ? "392" : "17";
     runScript("LOCK DELAY 300 ENDCHAPTER DELAY 50 TALK1 DELAY 1500 UNLOCKMOVEMENT DELAY 200 TIP " +
               controls + " REMOVESCRIPT");
-}
-
-void registerTitles() {
-    for (int chapter = 2; chapter <= chapterCount; ++chapter) {
-        addCallback("CHAPTER" + std::to_string(chapter) + "TEXT",
-                    [chapter](SceneObject*, So_Addition*) { introduceChapter(chapter); });
-    }
 }

@@ -10,5 +10,5 @@ void closeTitleCard();
 /// of it with a tip how.
 void introduceFirstChapter();
 
-/// Enters "CHAPTER2TEXT" and so on, which open the title for as long as it stays.
-void registerTitles();
+/// Opens the title for as long as it stays.
+void introduceChapter(int chapter);

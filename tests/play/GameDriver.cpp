@@ -2,6 +2,7 @@
 
 #include "support/ScriptedWindow.h"
 
+#include "GameStart.h"
 #include "ProcessValues.h"
 #include "TextStream.h"
 #include "game/flow/ChapterFlow.h"
@@ -12,6 +13,7 @@
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/GraphicsObject.h"
 #include "graphicsModule/Painter.h"
+#include "graphicsModule/Text.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
@@ -27,6 +29,7 @@
 #include <fstream>
 #include <functional>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -43,7 +46,22 @@ Level levelOn(const std::string& map) {
     return {map};
 }
 
+const Text* findText(const std::string& shown) {
+    for (const GraphicsObject* object : graphicsModule().getInterfaceObjects()) {
+        const auto* text = dynamic_cast<const Text*>(object);
+        if (text != nullptr && text->getText() == shown) {
+            return text;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
+
+GameDriver::GameDriver(ScriptedWindow& scripted) : window(scripted) {
+    window.moveMouse(windowWidth / 2, windowHeight / 2);
+    gameStart();
+}
 
 GameDriver::GameDriver(ScriptedWindow& scripted, const std::string& map) : window(scripted) {
     window.moveMouse(windowWidth / 2, windowHeight / 2);
@@ -146,10 +164,44 @@ void GameDriver::pointMouse() {
     const float zoom = camera.getZoom();
     const float logicalX = (place.x() + aimX - camera.getX()) * zoom + logicalWidth / 2.0F;
     const float logicalY = (place.y() + aimY - camera.getY()) * zoom + logicalHeight / 2.0F;
+    moveMouse(logicalX, logicalY);
+}
+
+void GameDriver::moveMouse(float x, float y) {
     const float scale =
         static_cast<float>(windowWidth - 2 * letterboxX) / logicalWidth; // the same on both axes
-    window.moveMouse(letterboxX + static_cast<int>(logicalX * scale),
-                     letterboxY + static_cast<int>((logicalHeight - logicalY) * scale));
+    window.moveMouse(letterboxX + static_cast<int>(x * scale),
+                     letterboxY + static_cast<int>((logicalHeight - y) * scale));
+}
+
+void GameDriver::letGo() {
+    aiming = false;
+    for (const int key : std::exchange(heldKeys, {})) {
+        window.release(key);
+    }
+    for (const int button : std::exchange(heldButtons, {})) {
+        window.releaseMouse(button);
+    }
+    step();
+}
+
+void GameDriver::click(const std::string& shown) {
+    const Text* text = findText(shown);
+    if (text == nullptr) {
+        throw "nothing on the screen reads " + shown;
+    }
+    aiming = false;
+    moveMouse((text->getLeft() + text->getRight()) / 2.0F,
+              (text->getBottom() + text->getTop()) / 2.0F);
+    step();
+    hold("mouse", true);
+    step();
+    hold("mouse", false);
+    step();
+}
+
+bool GameDriver::shows(const std::string& shown) {
+    return findText(shown) != nullptr;
 }
 
 void GameDriver::reload() {

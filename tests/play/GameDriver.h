@@ -15,8 +15,11 @@ class ScriptedWindow;
 /// then.
 class GameDriver {
 public:
-    /// The engine must be set up. Enters the map.
-    explicit GameDriver(ScriptedWindow& window, const std::string& map = "CHAPTER1.vkl");
+    // The engine must be set up.
+    /// Begins at the start screen.
+    explicit GameDriver(ScriptedWindow& window);
+    /// Begins in the map.
+    GameDriver(ScriptedWindow& window, const std::string& map);
 
     void step();
     /// Presses or releases: left, right, up, down, shift, escape, mouse, mouse2.
@@ -25,6 +28,12 @@ public:
     void aim(float x, float y);
     /// Keeps the mouse on the first object of the name, from now on.
     void aimAt(const std::string& name);
+    /// Releases all that is held down, and leaves the mouse where it is.
+    void letGo();
+    /// Clicks on the first text on the screen that reads so.
+    /// @throws std::string if none does
+    void click(const std::string& shown);
+    static bool shows(const std::string& shown);
     /// What the protagonist has in hand; null for nothing.
     SceneObject* held() const;
     /// Saves the running scene and goes on from the file.
@@ -46,6 +55,7 @@ public:
 
 private:
     void pointMouse();
+    void moveMouse(float x, float y); ///< Logical pixels from the lower left corner.
     void draw();
 
     ScriptedWindow& window;

@@ -192,7 +192,7 @@ TEST_F(LevelSound, Chapter1SoundsWhereItShouldAndIsSilentElsewhere) {
 
 TEST_F(LevelSound, TheHeartIsHeardInTheDarkAndNotUnderALamp) {
     constexpr int wait = 8 * second;
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     game.afterStep = [this](const GameDriver& driver) { hear(driver); };
     run(game, wait);
     standAt(game, 2285.0F, 160.0F); // on the stairs, between two lamps
@@ -208,7 +208,7 @@ TEST_F(LevelSound, TheHeartIsHeardInTheDarkAndNotUnderALamp) {
 TEST_F(LevelSound, WhoeverStaysUnderWaterGulpsDrownsAndBeginsAgain) {
     constexpr float surface = 170.0F; // of the pool, at rest
     constexpr float radius = 15.0F;   // of the protagonist
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     run(game, 1);
     standAt(game, 8640.0F, 220.0F);
     int lastAbove = 0; // the last step with the head out of the water
@@ -238,7 +238,7 @@ TEST_F(LevelSound, WhoeverStaysUnderWaterGulpsDrownsAndBeginsAgain) {
 }
 
 TEST_F(LevelSound, APauseLetsWhatRingsEndAndStartsNothing) {
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     game.afterStep = [this](const GameDriver& driver) { hear(driver); };
     run(game, second);
     game.hold("right", true);
@@ -255,7 +255,7 @@ TEST_F(LevelSound, APauseLetsWhatRingsEndAndStartsNothing) {
 }
 
 TEST_F(LevelMusic, StartsWithTheLevelAndGoesOnInAPause) {
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     game.afterStep = [this](const GameDriver&) { listener->hearStep(); };
     run(game, 6 * second);
     game.hold("escape", true);

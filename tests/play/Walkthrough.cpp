@@ -3,6 +3,7 @@
 #include "GameDriver.h"
 
 #include "ProcessValues.h"
+#include "game/flow/ChapterFlow.h"
 #include "game/flow/Progress.h"
 #include "graphicsModule/GraphicsObject.h"
 #include "inputModule/GameInput.h"
@@ -262,7 +263,7 @@ bool Condition::holds(const GameDriver& game) const {
         return sceneManager().getSceneObject(name) == nullptr;
     }
     if (kind == Kind::finished) {
-        return readProgress().any();
+        return levelRunning == 0 && readProgress().any();
     }
     if (player == nullptr) {
         return false;

@@ -101,7 +101,7 @@ TEST_F(HandsLevel, ACrateIsCarriedAndThrownAndALianaClimbed) {
 
 TEST_F(Play, Chapter1IsFinishedAndLeadsToTheNext) {
     constexpr int longest = 900; // steps
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     try {
         Walkthrough(pathOf("CHAPTER1")).play(game);
     } catch (const std::string& reason) {
@@ -123,7 +123,7 @@ TEST_F(Play, TwoRunsOfAWalkthroughEndInTheSameScene) {
 }
 
 TEST_F(Play, Chapter1IsFinishedThroughASaveAtEachOfItsExpectations) {
-    GameDriver game(*window);
+    GameDriver game(*window, "CHAPTER1.vkl");
     try {
         playThroughSaves(pathOf("CHAPTER1"), game);
     } catch (const std::string& reason) {
