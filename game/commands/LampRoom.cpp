@@ -79,6 +79,7 @@ void addOldOne() {
 
 void addSign() {
     SceneObjectDescription description;
+    description.texcoordMode = 0; // the whole of it
     description.texture = textureStore().find("tolmere.tga");
     description.z = signDepth;
     auto* sign = new SceneObject(makeBoxParts(description, 0.0F, 0.0F, 200.0F, 50.0F));

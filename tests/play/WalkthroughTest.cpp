@@ -2,6 +2,7 @@
 #include "PlayFixture.h"
 
 #include "Files.h"
+#include "game/flow/ChapterFlow.h"
 #include "game/flow/Progress.h"
 #include "sceneManager/SceneManager.h"
 #include "tools/mapc/MapCompiler.h"
@@ -40,6 +41,13 @@ protected:
 /// A chapter that has a walkthrough to its end, by its number.
 class Chapters : public Play, public testing::WithParamInterface<int> {
 protected:
+    void SetUp() override {
+        Play::SetUp();
+        if (GetParam() == chapterCount) { // leads on only whoever has found all secrets before it
+            writeSecrets(ChapterBits().set().reset(chapterCount - 1));
+        }
+    }
+
     std::string name() const { return "CHAPTER" + std::to_string(GetParam()); }
 };
 
@@ -130,6 +138,27 @@ TEST_F(Play, Chapter1IsFinishedThroughASaveAtEachOfItsExpectations) {
         game.screenshot(startDirectory + "/chapter1-reloaded.ppm");
         FAIL() << reason;
     }
+}
+
+TEST_F(Play, WhoHasFoundTooFewSecretsFallsInTheLastChapterAndGoesBackToTheMenu) {
+    constexpr int longest = 1200; // steps
+    writeSecrets(ChapterBits().set().reset(3).reset(chapterCount - 1));
+    GameDriver game(*window, "CHAPTER15.vkl");
+    try {
+        Walkthrough(TOLMERE_TEST_LEVELS "/fall.walk").play(game);
+    } catch (const std::string& reason) {
+        game.screenshot(startDirectory + "/fall-failed.ppm");
+        FAIL() << reason;
+    }
+    EXPECT_EQ(readDeaths(), 1);
+    EXPECT_FALSE(readProgress().any());
+    EXPECT_TRUE(gameStarted);
+    for (int i = 0; i < longest && gameStarted; ++i) { // each click turns a page
+        game.hold("mouse", i % 100 < 10);
+        game.step();
+    }
+    EXPECT_FALSE(gameStarted) << "the menu is there";
+    EXPECT_EQ(readSecrets().count(), 13U);
 }
 
 TEST_P(Chapters, IsFinishedFromItsStartToItsEnd) {
