@@ -4,6 +4,7 @@
 #include "Levels.h"
 #include "ProcessValues.h"
 #include "Progress.h"
+#include "ReturnToMenu.h"
 #include "SaveGame.h"
 #include "game/menu/MainMenu.h"
 #include "graphicsModule/Camera.h"
@@ -54,12 +55,15 @@ void endFirstChapter() {
 }
 
 /// What a map's last script calls. Behind the last chapter there is no other: the screen stays
-/// black.
+/// black for a while, and then the menu comes.
 void endChapter(int chapter) {
     levelRunning = 0;
     finishChapter(chapter);
     runScript("LOCK FADEALLTOBLACK DELAY 100 CHAPTER" + std::to_string(chapter + 1) +
               "INTRO REMOVESCRIPT");
+    if (chapter == chapterCount) {
+        runScript("LOCK DELAY 350 GAMEEND REMOVESCRIPT");
+    }
 }
 
 void registerChapterEnds() {
@@ -75,6 +79,7 @@ void registerOnce() {
     addSceneCommand("BADENDING1", clearForBadEnding);
     addSceneCommand("CREATEMENU", createMenu);
     addSceneCommand("CH1KO", endFirstChapter);
+    addSceneCommand("GAMEEND", leaveForMenu);
     registerIntros();
     registerLevels();
     registerChapterEnds();

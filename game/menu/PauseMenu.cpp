@@ -3,13 +3,10 @@
 #include "Language.h"
 #include "MenuPanel.h"
 #include "ModuleManager.h"
-#include "game/flow/ChapterFlow.h"
+#include "game/flow/ReturnToMenu.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/Text.h"
-#include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/SceneManager.h"
-#include "soundModule/SoundManager.h"
 
 namespace {
 
@@ -24,14 +21,8 @@ void resume() {
 }
 
 void returnToMainMenu() {
-    sceneManager().clearScene();
-    physicsModule().removeAllScripts();
-    soundManager().fadeOutSounds();
-    inputModule().removeAllFrames();
+    leaveForMenu();
     resume();
-    levelRunning = 0;
-    runScript(
-        "LOCK FADEALLTOBLACK DELAY 100 AMBIENT 0.2 TIP -1 CREATEMENU FADENORMAL REMOVESCRIPT");
 }
 
 void quit() {

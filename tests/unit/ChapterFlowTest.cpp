@@ -113,6 +113,11 @@ TEST_F(ChapterFlow, TheEndOfAChapterLeadsToTheIntroOfTheNext) {
     step(120);
     EXPECT_EQ(sceneManager().objects.size(), 2U) << "the two of chapter 3";
     EXPECT_EQ(readDeaths(), 0) << "that nobody plays in an intro is no death";
+    run("CH15END");
+    step(340);
+    EXPECT_THAT(shownWords(), testing::Not(HasSubstr("line 75"))) << "nothing but black";
+    step(160);
+    EXPECT_THAT(shownWords(), HasSubstr("line 75")) << "the menu";
 }
 
 TEST_F(ChapterFlow, ALevelWithoutAPlaceToStartLeavesTheCharacterWhereItWasMade) {
