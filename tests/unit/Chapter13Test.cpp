@@ -84,6 +84,25 @@ TEST_F(Ghost, IsBeatenByTheFifthGrabAndThrowsWhoeverSeizesItAway) {
     EXPECT_EQ(graphicsModule().ambientTarget, (Colour3{1.0F, 0.3F, 0.3F}));
 }
 
+TEST_F(Ghost, ThatAnnoysIsGoneWhenItIsSeizedAndDragsNobodyAlong) {
+    addBox(0, 235, 2000, 50, 0); // ends 15 below the protagonist
+    addNamed("ANPOS", 100, 400);
+    TestPlayer* player = addProtagonist(0, 300);
+    runScript("LOCK CH13PUTANNOING REMOVESCRIPT");
+    step(200);
+    SceneObject* ghost = sceneManager().getSceneObject("ANNOING");
+    ASSERT_NE(ghost, nullptr);
+    EXPECT_LT(originOf(*ghost).distance(originOf(*player)), 200) << "comes along";
+    static_cast<Hands&>(*player->equipment->current).primaryDown();
+    player->keys |= playerKey::primary;
+    for (int i = 0; i < 60 && sceneManager().getSceneObject("ANNOING") != nullptr; ++i) {
+        putAt(*player, originOf(*ghost) - btVector3(25, 0, 0));
+        step();
+    }
+    EXPECT_EQ(sceneManager().getSceneObject("ANNOING"), nullptr);
+    EXPECT_TRUE(physicsModule().getJoints().empty());
+}
+
 TEST_F(Ghost, LetsMonstersOutNowAndThenAndTauntsTheDead) {
     Player* ghost = addFighter(0, 300);
     addProtagonist(5000, 300);
