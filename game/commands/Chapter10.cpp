@@ -95,7 +95,7 @@ void dropGate(SceneObject* owner, So_Addition* link) {
         endLoop(owner, link);
         owner->addAddition(parseScript("CH10WROTA2"));
         dustAt("WROTA", 0.0F, -70.0F, stoneDust, "close.wav")(owner, link);
-        talk({{0, 40}, {277, 180}})(owner, link);
+        talk({{0, 40}, {277, 180}, {0, 30}, {275, 120}})(owner, link);
     }
 }
 
