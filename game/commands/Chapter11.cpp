@@ -82,12 +82,11 @@ bool isOn(const btRigidBody& pan, const btRigidBody& body) {
     return std::abs(way.x()) < reachX && way.y() > 0.0F;
 }
 
-/// Whether the protagonist is below the floor beside the pan. It counts as if it stood on it, so
-/// that no pan rises and walls it in.
+/// Whether the body is below the floor beside the pan, in a niche of its shaft. There it counts as
+/// if it lay on the pan, so that no pan rises and walls somebody in, and no weight is lost.
 bool isInShaft(const btRigidBody& body, const btVector3& base) {
     const btVector3 way = body.getWorldTransform().getOrigin() - base;
-    return &body == bodyOf(sceneManager().player) && std::abs(way.x()) < shaftX &&
-           way.y() < shaftUp && way.y() > -reachUp;
+    return std::abs(way.x()) < shaftX && way.y() < shaftUp && way.y() > -reachUp;
 }
 
 /// The mass of all that is on the pan, or in a leap over it.
