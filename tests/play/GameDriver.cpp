@@ -206,6 +206,10 @@ bool GameDriver::shows(const std::string& shown) {
 
 void GameDriver::reload() {
     saveGameAs("reload" + std::to_string(++reloads) + ".vkl");
+    loadLatest();
+}
+
+void GameDriver::loadLatest() {
     loadLastSave();
     for (const int key : heldKeys) { // a new character knows of no key that was down before it
         window.press(key);

@@ -38,6 +38,8 @@ public:
     SceneObject* held() const;
     /// Saves the running scene and goes on from the file.
     void reload();
+    /// Goes on from the latest save, with all keys held that are held now.
+    void loadLatest();
 
     Player* player() const; ///< The protagonist; null when dead.
     static btVector3 placeOf(const SceneObject& object);

@@ -61,8 +61,15 @@ protected:
     HuntLevel() : SmallLevel("hunt") {}
 };
 
-/// Plays on from a save at each expectation of the walkthrough. What is expected there is expected
-/// of a character that stands still: places to save at.
+void forgetSaves() {
+    for (const auto& save : std::filesystem::directory_iterator("save")) {
+        std::filesystem::remove(save);
+    }
+}
+
+/// Plays on from each save that the level makes, and from one at each expectation of the
+/// walkthrough. What is expected there is expected of a character that stands still: places to save
+/// at.
 void playThroughSaves(const std::string& path, GameDriver& game) {
     const Walkthrough walkthrough(path);
     Direction pause;
@@ -73,7 +80,13 @@ void playThroughSaves(const std::string& path, GameDriver& game) {
             walkthrough.follow(pause, game);
         }
         try {
+            forgetSaves();
             walkthrough.follow(direction, game);
+            if (!std::filesystem::is_empty("save")) {
+                game.loadLatest();
+                walkthrough.follow(pause, game);
+                walkthrough.follow(direction, game);
+            }
         } catch (const std::string& reason) {
             throw direction.text + ": " + reason + ", " + game.describePlace();
         }
