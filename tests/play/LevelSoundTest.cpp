@@ -29,7 +29,7 @@ struct HeardAt {
 };
 
 constexpr std::array chapter1{
-    HeardAt{"minibell.wav", 1040, 1060, 120}, // a tip
+    HeardAt{"minibell.wav", 1105, 1160, 120}, // a tip
     HeardAt{"foot1.wav", 1160, 1200, 40},     // lands from a leap
     HeardAt{"minibell.wav", 1430, 1460, 120},
     HeardAt{"squeak2.wav", 1530, 1570, 60}, // the hanging door, pushed
@@ -43,21 +43,27 @@ constexpr std::array chapter1{
     HeardAt{"switch.wav", 10340, 10410, 60},   // the crate is on the plate
     HeardAt{"grind.wav", 10360, 10440, 15},    // the door goes up
     HeardAt{"minibell.wav", 10360, 10420, 40}, // and rings the bell
-    HeardAt{"foot0.wav", 11030, 11210, 12},    // a landing
-    HeardAt{"minibell.wav", 11530, 11580, 40},
+    HeardAt{"foot0.wav", 10420, 10520, 40},    // a landing
+
     HeardAt{"pick.wav", 7800, 7850, 50},     // the crate, in hand
     HeardAt{"anxiety5.wav", 8700, 8780, 60}, // the gong
     HeardAt{"plum#.wav", 8690, 8900, 10},    // a stone, or who comes after it, into the water
     HeardAt{"uwater.wav", 9030, 9110, 10},   // under it
     HeardAt{"breath.wav", 9390, 9520, 50},   // and up again
     HeardAt{"pick.wav", 9800, 9880, 50},     // the liana
+
+    HeardAt{"whisp.wav", 11300, 11340, 10},     // a wall goes
+    HeardAt{"whisp.wav", 11920, 11950, 60},     // somebody sleeps there
+    HeardAt{"evildie#.wav", 12440, 12560, 40},  // into the fire
+    HeardAt{"minibell.wav", 12180, 12300, 100}, // a secret
+    HeardAt{"thud.wav", 13490, 13530, 20},      // the weight, on the boards
 };
 
 /// What would be drowned by any step or splash, were it not told by its low tones.
 constexpr std::array<std::string_view, 2> lowSounds{"heart.wav", "uwater.wav"};
 
 /// What nothing in the level makes.
-constexpr std::array chapter1Never{"dying0.wav", "zom0.wav"};
+constexpr std::array chapter1Never{"dying0.wav", "chomp.wav"};
 
 /// A stretch without any sound.
 struct SilentAt {
@@ -65,8 +71,8 @@ struct SilentAt {
 };
 
 // In the middle of long leaps.
-constexpr std::array chapter1Silent{SilentAt{2985, 3130}, SilentAt{3441, 3550}};
-constexpr int shortestSilence = 30; // steps
+constexpr std::array chapter1Silent{SilentAt{2985, 3130}, SilentAt{3443, 3543}};
+constexpr int shortestSilence = 25; // steps
 
 void run(GameDriver& game, int steps) {
     for (int i = 0; i < steps; ++i) {

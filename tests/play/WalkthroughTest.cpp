@@ -133,6 +133,7 @@ TEST_F(Play, Chapter1IsFinishedAndLeadsToTheNext) {
         game.step();
     }
     EXPECT_TRUE(readProgress()[0]);
+    EXPECT_TRUE(readSecrets()[0]);
     EXPECT_EQ(sceneManager().player, nullptr) << "the intro of the next one runs";
 }
 
