@@ -110,8 +110,6 @@ void spawnBehind(SceneObject* owner, So_Addition*) {
     }
 }
 
-// --- water ---------------------------------------------------------------------------------------
-
 /// One of the waters, and the marker whose height it goes to.
 struct Level {
     const char* water;
@@ -168,9 +166,6 @@ void drainWater(SceneObject*, So_Addition* link) {
         endWater(link);
     }
 }
-
-// --- the plug, and the wheel that it gives power to
-// ------------------------------------------------
 
 bool isPluggedIn() {
     const SceneObject* socket = sceneManager().getSceneObject("LACZ");
