@@ -158,3 +158,9 @@ Signal drone(float hz, float seconds, int partials, Chance chance) {
     }
     return signal;
 }
+
+Signal drum(float hz, Chance chance) {
+    Signal signal = strike(material::membrane(hz, 1.3f, 1), 5 * hz, chance);
+    add(signal, strike(material::plate(hz * 0.8f, 0.6f, 1, 10, chance), 4 * hz, chance), 0, 0.5f);
+    return levelled(std::move(signal));
+}

@@ -26,3 +26,6 @@ Signal bowedGlass(float hz, float seconds, Chance chance);
 /// A tone of partials that come and go, each a whole number of times in `seconds`, so that its end
 /// meets its start.
 Signal drone(float hz, float seconds, int partials, Chance chance);
+
+/// A drum the size of a room.
+Signal drum(float hz, Chance chance);

@@ -58,6 +58,12 @@ std::span<const Recipe> recipes() {
         {"coldChoir", coldChoir},
         {"darkAmbience", darkAmbience},
         {"outOfBody", outOfBody},
+        {"mossAndRust", mossAndRust},
+        {"emberAndTide", emberAndTide},
+        {"ghostLight", ghostLight},
+        {"farSide", farSide},
+        {"frost", frost},
+        {"lamps", lamps},
     };
     return table;
 }

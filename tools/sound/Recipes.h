@@ -80,3 +80,11 @@ Signal coldChoir(const Take& take);
 // music.cpp
 Signal darkAmbience(const Take& take);
 Signal outOfBody(const Take& take);
+// musicBelow.cpp
+Signal mossAndRust(const Take& take);
+Signal emberAndTide(const Take& take);
+Signal ghostLight(const Take& take);
+// musicBeyond.cpp
+Signal farSide(const Take& take);
+Signal frost(const Take& take);
+Signal lamps(const Take& take);

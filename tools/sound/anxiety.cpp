@@ -10,13 +10,6 @@
 
 namespace {
 
-// A drum the size of a room.
-Signal drum(float hz, Chance chance) {
-    Signal signal = strike(material::membrane(hz, 1.3f, 1), 5 * hz, chance);
-    add(signal, strike(material::plate(hz * 0.8f, 0.6f, 1, 10, chance), 4 * hz, chance), 0, 0.5f);
-    return levelled(std::move(signal));
-}
-
 Signal cluster(std::initializer_list<float> keys, float seconds, const Curve& glide, float bright,
                const Take& take) {
     Signal signal;

@@ -1,4 +1,5 @@
-// The music. Slow, long, without a seam; the motif is in all of it.
+// The music of the first chapters and of the flight. All music is slow, long and without a seam,
+// and the motif is in all of it.
 
 #include "Recipes.h"
 #include "Score.h"
@@ -18,9 +19,7 @@ Signal darkAmbience(const Take& take) {
     constexpr Chord chords[] = {{4, {-12, -5, 3}},  {20, {-16, -4, 3}}, {36, {-12, -2, 5}},
                                 {52, {-17, -9, 2}}, {68, {-12, -5, 1}}, {82, {-12, -5, 3}}};
     for (const Chord& chord : chords) {
-        for (float key : chord.keys) {
-            score.playChoir(chord.at, 13, key, vowel::a, 0.16f);
-        }
+        score.playChord(chord.at, 13, chord.keys, vowel::a, 0.16f);
         score.playStrings(chord.at - 2, 16, chord.keys[0] - 12, 420, 0.2f);
     }
 
