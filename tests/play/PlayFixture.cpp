@@ -5,11 +5,19 @@
 #include "support/HeldWindow.h"
 
 #include "Files.h"
+#include "Random.h"
 #include "graphicsModule/GlDevice.h"
 
 #include <filesystem>
 
 namespace fs = std::filesystem;
+
+void PlayFixture::SetUp() {
+    EngineFixture::SetUp();
+    if (const char* seed = std::getenv("TOLMERE_SEED")) {
+        randomState = static_cast<std::uint32_t>(std::atoi(seed));
+    }
+}
 
 void PlayFixture::prepareDirectory() {
     EngineFixture::prepareDirectory();

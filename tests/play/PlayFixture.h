@@ -10,9 +10,10 @@
 
 /// The engine among the built assets, in a small window: software drawing is bound by pixels. With
 /// TOLMERE_PICTURES=DIRECTORY the window has its full size and a picture of every second is kept
-/// there.
+/// there; with TOLMERE_SEED=N chance is another one.
 class PlayFixture : public EngineFixture {
 protected:
+    void SetUp() override;
     void prepareDirectory() override;
     std::unique_ptr<platform::Window> makeInnerWindow() override;
     std::unique_ptr<PaintDevice> makeDevice() override;
