@@ -12,10 +12,10 @@
 #include "sceneManager/EvilPlayer.h"
 #include "sceneManager/Hands.h"
 #include "sceneManager/SceneManager.h"
-#include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 #include "sceneManager/So_Addons/WaterAddition.h"
 #include "sceneManager/TestPlayer.h"
+#include "unit/PhysicsBodies.h"
 
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 #include <LinearMath/btAlignedAllocator.h>
@@ -55,17 +55,6 @@ void release(void* block) {
 
 namespace {
 
-SceneObjectDescription look(float mass) {
-    SceneObjectDescription description{};
-    description.physical = true;
-    description.friction = 0.5F;
-    description.mass = mass;
-    description.texture = -1;
-    description.parallax = 1.0F;
-    description.r = description.g = description.b = description.a = 1.0F;
-    return description;
-}
-
 LightProperties lampLight() {
     LightProperties look;
     look.size = 700.0F;
@@ -88,17 +77,15 @@ ParticleParams drizzle() {
 /// Crates and discs at rest on a floor, under a lamp that drizzles, while a script counts a long
 /// delay.
 void fillStillScene() {
-    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 0, -50, 900, 50)));
+    addBox(0, -50, 900, 50, 0);
     for (int i = 0; i < 20; ++i) {
         const float x = static_cast<float>(i) * 60.0F - 600.0F;
-        sceneManager().addSceneObject(
-            new SceneObject(i % 2 == 0 ? makeBoxParts(look(1.0F), x, 20, 20, 20)
-                                       : makeSphereParts(look(1.0F), x, 20, 20)));
+        addToScene(i % 2 == 0 ? createBox(x, 20, 20, 20, 0, 0.5F, 1)
+                              : createSphere(x, 20, 20, 0, 0.5F, 1));
     }
-    auto* lamp = new SceneObject(makeBoxParts(look(0.0F), 0, 300, 20, 20));
+    SceneObject* lamp = addBox(0, 300, 20, 20, 0);
     lamp->addAddition(new LightAdd(lampLight()));
     lamp->addAddition(new ParticleEmiter(drizzle()));
-    sceneManager().addSceneObject(lamp);
     physicsModule().addScript(parseScript("DELAY 100000 X"));
 }
 
@@ -109,9 +96,7 @@ void addMachines() {
          {"TRIGGER -P LOCK DELAY 100000 X NAME machine", "STRIGGER SOUND bell.wav",
           "DELAY 7 SOUND bell.wav DELAY 5 UNLOCK", "SOUNDSOURCE hum.wav -V 90", "MOVSOUND hum.wav",
           "VSOUND hum.wav", "SQUEAK squeak.wav", "CREAK squeak.wav"}) {
-        auto* machine = new SceneObject(makeBoxParts(look(0.0F), x, 300, 20, 20));
-        machine->addAddition(parseScript(script));
-        sceneManager().addSceneObject(machine);
+        addBox(x, 300, 20, 20, 0)->addAddition(parseScript(script));
         x += 100.0F;
     }
     graphicsModule().camera->setY(300.0F);
@@ -120,19 +105,15 @@ void addMachines() {
 /// A pool with waves in which crates bob.
 void addPool() {
     PhysicsObject* basin = createBox(0.0F, -300.0F, 400.0F, 150.0F, 0.0F, 0.5F, 0.0F);
-    basin->body->setCollisionFlags(basin->body->getCollisionFlags() |
-                                   btCollisionObject::CF_NO_CONTACT_RESPONSE);
     auto* waves = new WaterGraphics(-400.0F, -150.0F, 400.0F, 150.0F, -1, 0.2F, 1.0F, 2, 0.2F, 0.4F,
                                     0.5F, 0.7F);
     waves->setPhysicsObject(basin);
-    auto* water = new SceneObject({basin, waves});
+    SceneObject* water = letThrough(new SceneObject({basin, waves}));
     water->addAddition(new WaterAddition(0.0F));
     sceneManager().addSceneObject(water);
     for (int i = 0; i < 10; ++i) {
         const float x = static_cast<float>(i) * 60.0F - 270.0F;
-        auto* crate = new SceneObject(makeBoxParts(look(1.0F), x, -100.0F, 20.0F, 20.0F));
-        crate->physicsObject->waterFactor = 1.1F;
-        sceneManager().addSceneObject(crate);
+        addBox(x, -100.0F, 20.0F, 20.0F, 1.0F)->physicsObject->waterFactor = 1.1F;
     }
 }
 
@@ -144,10 +125,15 @@ protected:
     }
     void prepareDirectory() override {
         EngineFixture::prepareDirectory();
-        for (const char* name : {"bell", "hum", "squeak", "thud", "roll", "foot0", "foot1", "heart",
-                                 "lap", "zom0", "zom1", "zom2", "zom3"}) {
-            directory.write("sound/" + std::string(name) + ".wav", "");
-        }
+        writeSounds({"bell", "hum", "squeak", "thud", "roll", "foot0", "foot1", "heart", "lap",
+                     "zom0", "zom1", "zom2", "zom3"});
+    }
+
+    static TestPlayer* addProtagonist() {
+        auto* player = new TestPlayer; // at 500, 500
+        sceneManager().addSceneObject(player);
+        sceneManager().player = player;
+        return player;
     }
 };
 
@@ -163,17 +149,15 @@ TEST_F(Allocation, ASteadyStepAndASteadyFrameOfAStillSceneAllocateNothing) {
     allocations = 0;
     step(60);
     EXPECT_EQ(allocations, 0U) << "in a step";
-    EXPECT_NE(mixer->running().find("hum.wav 8"), std::string::npos) << mixer->running();
-    allocations = 0;
     for (int i = 0; i < 20; ++i) {
         graphicsModule().update();
     }
     EXPECT_EQ(allocations, 0U) << "in a frame";
-    allocations = 0;
     for (int i = 0; i < 20; ++i) {
         inputModule().update();
     }
     EXPECT_EQ(allocations, 0U) << "in a poll of the input";
+    EXPECT_NE(mixer->running().find("hum.wav 8"), std::string::npos) << mixer->running();
 }
 
 TEST_F(Allocation, CratesBobInWavesWithoutAllocating) {
@@ -190,12 +174,9 @@ TEST_F(Allocation, CratesBobInWavesWithoutAllocating) {
 }
 
 TEST_F(Allocation, ACrateIsCarriedAndSwungWithoutAllocating) {
-    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 400, 5000, 50)));
-    auto* crate = new SceneObject(makeBoxParts(look(2.0F), 535, 470, 20, 20));
-    sceneManager().addSceneObject(crate);
-    auto* player = new TestPlayer;
-    sceneManager().addSceneObject(player);
-    sceneManager().player = player;
+    addBox(500, 400, 5000, 50, 0);
+    const SceneObject* crate = addBox(535, 470, 20, 20, 2);
+    TestPlayer* player = addProtagonist();
     step(60);
     auto& hands = static_cast<Hands&>(*player->equipment->current);
     hands.primaryDown();
@@ -204,8 +185,7 @@ TEST_F(Allocation, ACrateIsCarriedAndSwungWithoutAllocating) {
     ASSERT_EQ(hands.heldObject(), crate);
     const auto swing = [this, player](float x, float y) {
         for (int i = 0; i < 60; ++i) {
-            player->aimPoint =
-                player->physicsObject->body->getWorldTransform().getOrigin() + btVector3(x, y, 0);
+            player->aimPoint = originOf(*player) + btVector3(x, y, 0);
             step();
         }
     };
@@ -219,10 +199,8 @@ TEST_F(Allocation, ACrateIsCarriedAndSwungWithoutAllocating) {
 }
 
 TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {
-    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 400, 5000, 50)));
-    auto* player = new TestPlayer;
-    sceneManager().addSceneObject(player);
-    sceneManager().player = player;
+    addBox(500, 400, 5000, 50, 0);
+    TestPlayer* player = addProtagonist();
     const auto walk = [player](std::uint32_t key) {
         player->keys = key;
         for (int i = 0; i < 120; ++i) {
@@ -239,14 +217,12 @@ TEST_F(Allocation, TheProtagonistWalksAndTurnsInTheDarkWithoutAllocating) {
 }
 
 TEST_F(Allocation, APackHuntsWithoutAllocating) {
-    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, -50, 5000, 50)));
-    sceneManager().addSceneObject(new SceneObject(makeBoxParts(look(0.0F), 500, 430, 50, 50)));
-    auto* prey = new TestPlayer; // on a shelf, out of reach
-    sceneManager().addSceneObject(prey);
-    sceneManager().player = prey;
+    addBox(500, -50, 5000, 50, 0);
+    addBox(500, 430, 50, 50, 0);
+    const TestPlayer* prey = addProtagonist(); // on a shelf, out of reach
     for (const float x : {0.0F, 250.0F, 600.0F, 800.0F}) {
         auto* monster = new EvilPlayer;
-        monster->physicsObject->body->getWorldTransform().setOrigin({x, 250.0F, 0.0F});
+        put(*monster, x, 250.0F);
         sceneManager().addSceneObject(monster);
     }
     graphicsModule().camera->setX(500.0F);

@@ -1,40 +1,40 @@
 #include "Mutator.h"
 
-#include <array>
+#include <iterator>
 
 namespace {
 
 /// Values that have broken readers before: limits, signs, halves of numbers, words.
-constexpr std::array words{"0",
-                           "-1",
-                           "1",
-                           "2",
-                           "3",
-                           "31",
-                           "4294967295",
-                           "4294967296",
-                           "1e38",
-                           "2147483647",
-                           "-2147483648",
-                           "-inf",
-                           "nan",
-                           "1e-9",
-                           "3.5",
-                           "word",
-                           "+7",
-                           "0x10",
-                           "",
-                           "-0",
-                           "32",
-                           "17",
-                           "99999999999999999999",
-                           "8",
-                           "1000000",
-                           "LOCK",
-                           "-V",
-                           "-P",
-                           "NAME",
-                           "DELAY"};
+constexpr const char* words[] = {"0",
+                                 "-1",
+                                 "1",
+                                 "2",
+                                 "3",
+                                 "31",
+                                 "4294967295",
+                                 "4294967296",
+                                 "1e38",
+                                 "2147483647",
+                                 "-2147483648",
+                                 "-inf",
+                                 "nan",
+                                 "1e-9",
+                                 "3.5",
+                                 "word",
+                                 "+7",
+                                 "0x10",
+                                 "",
+                                 "-0",
+                                 "32",
+                                 "17",
+                                 "99999999999999999999",
+                                 "8",
+                                 "1000000",
+                                 "LOCK",
+                                 "-V",
+                                 "-P",
+                                 "NAME",
+                                 "DELAY"};
 
 } // namespace
 
@@ -79,5 +79,5 @@ void Mutator::replaceWord(std::string& text) {
     begin = begin == std::string::npos ? 0 : begin + 1;
     std::size_t end = text.find(' ', begin);
     end = end == std::string::npos ? text.size() : end;
-    text.replace(begin, end - begin, words.at(below(words.size())));
+    text.replace(begin, end - begin, words[below(std::size(words))]);
 }

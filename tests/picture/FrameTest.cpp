@@ -200,17 +200,4 @@ TEST_F(FrameTest, ParticlesAddOrCoverAndAreLitInTheSliceOfTheirDepth) {
     }
 }
 
-TEST_F(FrameTest, TextTakesItsLettersFromTheFont) {
-    auto* text = new Text("A A", 0.0F, 0.0F, 16.0F, 1.0F, 0.0F, 0.0F);
-    text->moveBy(200.0F, 200.0F);
-    graphicsModule().addInterfaceObject(text);
-    draw();
-    const float letter = text->getTextWidth() / 3.0F;
-    const float y = (text->getBottom() + text->getTop()) / 2.0F;
-    const float left = text->getLeft();
-    expectColour(left + letter * 0.5F, y, 1.0F, 0.0F, 0.0F);
-    expectColour(left + letter * 1.5F, y, 1.0F, 1.0F, 1.0F);
-    expectColour(left + letter * 2.5F, y, 1.0F, 0.0F, 0.0F);
-}
-
 } // namespace

@@ -125,6 +125,12 @@ void EngineFixture::prepareDirectory() {
     directory.write("music/theme.ogg", "");
 }
 
+void EngineFixture::writeSounds(std::initializer_list<const char*> names) const {
+    for (const std::string name : names) {
+        directory.write("sound/" + name + ".wav", "");
+    }
+}
+
 std::unique_ptr<PaintDevice> EngineFixture::makeDevice() {
     auto recorder = std::make_unique<RecordingDevice>();
     device = recorder.get();

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -31,6 +32,8 @@ protected:
     // For tests that draw, or that live in other directories. Called in `SetUp`, in this order.
     /// Fills the directory, which is the current one.
     virtual void prepareDirectory();
+    /// More sounds that no device plays, without the ending; before the engine starts.
+    void writeSounds(std::initializer_list<const char*> names) const;
     /// The window that the scripted one wraps; none.
     virtual std::unique_ptr<platform::Window> makeInnerWindow() { return nullptr; }
     /// Called when the window is open; a `RecordingDevice`, kept as `device`.

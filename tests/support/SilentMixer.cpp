@@ -25,6 +25,19 @@ std::string SilentMixer::running() const {
     return text;
 }
 
+std::string SilentMixer::takeRunning(std::initializer_list<const char*> families) {
+    std::string text = running();
+    for (const std::string family : families) {
+        for (auto at = text.find(family); at != std::string::npos; at = text.find(family, at + 1)) {
+            text[at + family.size()] = 'N';
+        }
+    }
+    for (int channel = 0; channel < channelCount; ++channel) {
+        endSound(channel);
+    }
+    return text;
+}
+
 void SilentMixer::endMusic() {
     music.clear();
     fadingOut = false;

@@ -3,6 +3,7 @@
 #include "soundModule/Mixer.h"
 
 #include <array>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ public:
 
     /// What runs, in the order of channels, as "a.wav 128 b.wav 40 for ever".
     std::string running() const;
+    /// The same, and then all of it ends. Of sounds that are chosen by chance, which begin with one
+    /// of the words, the digit behind it becomes N.
+    std::string takeRunning(std::initializer_list<const char*> families = {});
 
     // What happens by itself elsewhere.
     void endSound(int channel) { channels[static_cast<std::size_t>(channel)].playing = false; }

@@ -1,6 +1,5 @@
 #include "Failure.h"
-#include "TextStream.h"
-#include "sceneManager/So_Addons/AdditionRecords.h"
+#include "Records.h"
 #include "sceneManager/So_Addons/ScriptParser.h"
 
 #include <gtest/gtest.h>
@@ -9,17 +8,11 @@
 
 namespace {
 
-std::string print(const So_Addition& addition) {
-    TextWriter stream;
-    addition.save(stream);
-    return stream.takeText();
-}
-
 std::string readAndPrint(const std::string& record) {
     TextReader stream(record);
     const std::unique_ptr<So_Addition> addition(readAddition(stream));
     EXPECT_GE(stream.offset() + 1, record.size()) << "something was left of " << record;
-    return print(*addition);
+    return recordOf(*addition);
 }
 
 TEST(ChainRecord, EveryKeywordPrintsWhatItReadsBack) {
@@ -28,7 +21,7 @@ TEST(ChainRecord, EveryKeywordPrintsWhatItReadsBack) {
                                  " a.wav b.wav X", "  X", " a\tb", " \n -V 3"}) {
             const std::string script = std::string(keyword.word) + rest;
             const std::unique_ptr<CallbackAdd> chain(parseScript(script));
-            const std::string record = print(*chain);
+            const std::string record = recordOf(*chain);
             EXPECT_EQ(readAndPrint(record), record) << script;
         }
     }

@@ -1,6 +1,5 @@
 #include "FloorFixture.h"
 
-#include "game/commands/CommandTables.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
 #include "sceneManager/EvilPlayer.h"
@@ -14,20 +13,10 @@ namespace {
 
 class OtherSide : public FloorFixture {
 protected:
-    static SceneObject* addNamed(const std::string& name, float x, float y,
-                                 const std::string& chain = "") {
-        SceneObject* box = addBox(x, y, 10, 10, 0);
-        box->addAddition(parseScript("NAME " + name));
-        if (!chain.empty()) {
-            box->addAddition(parseScript(chain));
-        }
-        return box;
-    }
-
     static EvilPlayer* addMonster(float x, float y) {
         auto* monster = new EvilPlayer;
         monster->state = EvilState::puppet;
-        monster->physicsObject->body->getWorldTransform().setOrigin({x, y, 0});
+        put(*monster, x, y);
         sceneManager().addSceneObject(monster);
         return monster;
     }
@@ -38,19 +27,8 @@ protected:
     }
 };
 
-TEST_F(OtherSide, CommandsBearAnEmptyScene) {
-    for (const NamedCommand& command : chapter10Commands()) {
-        command.run(nullptr, nullptr);
-        SceneObject* box = addNamed("WROTA", 0, 100);
-        command.run(box, nullptr);
-        step(2);
-        physicsModule().removeAllScripts();
-        sceneManager().clearScene();
-    }
-}
-
 TEST_F(OtherSide, ALittleOneStandsInItsMarkersPlaceCriesOnceRunsAndDiesOfBites) {
-    addNamed("LUDZIK", 0, 30, "CH10PERSON1");
+    addNamed("LUDZIK", 0, 30, 10, "CH10PERSON1");
     step(3);
     EXPECT_EQ(sceneManager().getSceneObject("LUDZIK"), nullptr);
     SceneObject* person = personCalled("OSOBA1");
@@ -75,7 +53,7 @@ TEST_F(OtherSide, ALittleOneStandsInItsMarkersPlaceCriesOnceRunsAndDiesOfBites) 
 
 TEST_F(OtherSide, EachMonsterBeforeTheGateLiftsItAtEachBlowAndNobodyElseDoes) {
     for (const auto& [monsters, lift] : {std::pair{0, 0.0F}, {1, 3.0F}, {3, 9.0F}}) {
-        const SceneObject* gate = addNamed("WROTA", 0, 100, "CH10WROTA2");
+        const SceneObject* gate = addNamed("WROTA", 0, 100, 10, "CH10WROTA2");
         addNamed("WROTADEST", 500, 100);
         addNamed("WROTAUP", 0, 300);
         for (int i = 0; i < monsters; ++i) {

@@ -18,12 +18,6 @@ namespace {
 
 class Altar : public EngineFixture {
 protected:
-    static SceneObject* addNamed(const std::string& name, float x, float y) {
-        SceneObject* box = addBox(x, y, 10, 10, 0);
-        box->addAddition(parseScript("NAME " + name));
-        return box;
-    }
-
     static void addPlaces() {
         for (const char* name : {"SPAWN1", "SPAWN2", "SPAWN3", "DEST1", "DEST2"}) {
             addNamed(name, 0, 0);

@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-// The fight with the ghost, hit by hit, and water that is moved.
+// The fight with the ghost, hit by hit.
 
 namespace {
 
@@ -28,12 +28,6 @@ protected:
     void TearDown() override {
         chapterFlags.fill(0);
         EngineFixture::TearDown();
-    }
-
-    static SceneObject* addNamed(const std::string& name, float x, float y) {
-        SceneObject* box = addBox(x, y, 5, 5, 0);
-        box->addAddition(parseScript("NAME " + name));
-        return box;
     }
 
     /// One that fights and has nowhere to fly to.
@@ -123,22 +117,6 @@ TEST_F(Ghost, LetsMonstersOutNowAndThenAndTauntsTheDead) {
     sceneManager().player = nullptr;
     step(2);
     EXPECT_TRUE(ghost->isSpeaking());
-}
-
-TEST_F(Ghost, TheMachineStopsWhenTheWaterHasRisen) {
-    addNamed("TLOKUP", 0, 40);
-    addNamed("TLOKDOWN", 0, 0);
-    addNamed("WODADEST", 500, 80);
-    SceneObject* piston = addNamed("TLOK", 0, 40);
-    SceneObject* water = addNamed("WODA", 500, 0);
-    runScript("LOCK CH13R6 REMOVESCRIPT");
-    step(60);
-    EXPECT_NE(piston->findAddition(AdditionType::customCallback), nullptr);
-    EXPECT_GT(originOf(*water).y(), 30);
-    step(120);
-    EXPECT_FLOAT_EQ(originOf(*water).y(), 80);
-    EXPECT_EQ(piston->findAddition(AdditionType::customCallback), nullptr);
-    EXPECT_FLOAT_EQ(originOf(*piston).y(), 40) << "rests at the top";
 }
 
 } // namespace

@@ -1,11 +1,8 @@
 #include "support/EngineFixture.h"
 
 #include "PhysicsBodies.h"
-#include "game/commands/CommandTables.h"
-#include "physicsModule/PhysicsModule.h"
-#include "sceneManager/So_Addons/CallbackAdd.h"
-
 #include "sceneManager/TestPlayer.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -15,16 +12,6 @@ namespace {
 
 class Daylight : public EngineFixture {
 protected:
-    static SceneObject* addNamed(const std::string& name, float x, float y,
-                                 const std::string& chain = "") {
-        SceneObject* box = addBox(x, y, 10, 40, 0);
-        box->addAddition(parseScript("NAME " + name));
-        if (!chain.empty()) {
-            box->addAddition(parseScript(chain));
-        }
-        return box;
-    }
-
     static TestPlayer* addProtagonist() {
         auto* player = new TestPlayer;
         sceneManager().addSceneObject(player);
@@ -35,31 +22,19 @@ protected:
     /// Steps in which the protagonist hangs at the place and looks to the side.
     void look(TestPlayer& player, const btVector3& place, float dx, int steps) {
         for (int i = 0; i < steps; ++i) {
-            player.physicsObject->body->getWorldTransform().setOrigin(place);
-            player.physicsObject->body->setLinearVelocity({0, 0, 0});
+            put(player, place.x(), place.y());
             player.aimPoint = place + btVector3(dx, 0, 0);
             step();
         }
     }
 };
 
-TEST_F(Daylight, CommandsBearAnEmptyScene) {
-    for (const NamedCommand& command : chapter14Commands()) {
-        command.run(nullptr, nullptr);
-        SceneObject* box = addNamed("DZIWA", 0, 0);
-        command.run(box, nullptr);
-        step(2);
-        physicsModule().removeAllScripts();
-        sceneManager().clearScene();
-    }
-}
-
 TEST_F(Daylight, FollowersComeCloserBehindTheBackAsFarAsTheirMannersAndTheirRoomAllow) {
     for (const auto& [roomEnds, stops] : {std::pair{500.0F, -120.0F}, {-200.0F, -200.0F}}) {
         addNamed("DZIWL", -1000, 200);
         addNamed("DZIWR", roomEnds, 200);
-        const SceneObject* first = addNamed("DZIWA", -300, 300, "CH14DZIW1");
-        const SceneObject* second = addNamed("DZIWB", -400, 300, "CH14DZIW1");
+        const SceneObject* first = addNamed("DZIWA", -300, 300, 40, "CH14DZIW1");
+        const SceneObject* second = addNamed("DZIWB", -400, 300, 40, "CH14DZIW1");
         TestPlayer* player = addProtagonist();
 
         look(*player, {0, 300, 0}, -100, 20);
@@ -75,7 +50,7 @@ TEST_F(Daylight, TheGateHeedsOnlyWhoIsLookedAtOnTheMark) {
     addNamed("SLAD", 0, 300);
     addNamed("KLAPAPOS", 500, 0);
     addNamed("KLAPADEST", 500, 100);
-    const SceneObject* gate = addNamed("KLAPA", 500, 0, "CH14DZIW3");
+    const SceneObject* gate = addNamed("KLAPA", 500, 0, 40, "CH14DZIW3");
     SceneObject* thing = addNamed("DZIWC", 30, 300);
     TestPlayer* player = addProtagonist();
 

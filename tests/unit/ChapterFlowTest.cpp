@@ -6,8 +6,6 @@
 #include "game/flow/GameEntry.h"
 #include "game/flow/Progress.h"
 #include "graphicsModule/Camera.h"
-#include "graphicsModule/InterfaceGraphicsObject.h"
-#include "soundModule/SoundManager.h"
 
 #include <gmock/gmock.h>
 
@@ -26,23 +24,6 @@ protected:
     }
 };
 
-TEST_F(ChapterFlow, TheStartScreenStandsUntilAKeyAndLeadsToTheMenu) {
-    gameStart();
-    step(200);
-    EXPECT_EQ(shownWords(), "line 5 ");
-    EXPECT_EQ(alphaOf(*graphicsModule().screenFade), 0.0F);
-    EXPECT_EQ(alphaOf(*graphicsModule().sceneFade), 1.0F) << "all but the words is black";
-    window->press(platform::keySpace);
-    frame(3);
-    window->release(platform::keySpace);
-    frame(3);
-    EXPECT_EQ(graphicsModule().screenFadeTarget[3], 1.0F);
-    step(150);
-    EXPECT_THAT(shownWords(), testing::Not(HasSubstr("line 5 ")));
-    EXPECT_EQ(graphicsModule().sceneFadeTarget[3], 0.0F);
-    EXPECT_EQ(sceneManager().player, nullptr);
-}
-
 TEST_F(ChapterFlow, ADoubleClickInTheMenuStartsOneGame) {
     startNewGame();
     startNewGame();
@@ -50,27 +31,6 @@ TEST_F(ChapterFlow, ADoubleClickInTheMenuStartsOneGame) {
     startChapter(3);
     EXPECT_EQ(physicsModule().getGlobalScripts().size(), 2U); // the watch, and the way there
     EXPECT_EQ(cutsOn, 1);
-}
-
-TEST_F(ChapterFlow, ANewGameWakesUpBehindItsIntroAndGetsControlLater) {
-    writeMap("CHAPTER1.vkl");
-    startNewGame();
-    step(210);
-    EXPECT_EQ(sceneManager().objects.size(), 1U) << "the backdrop";
-    EXPECT_EQ(graphicsModule().camera->owner, sceneManager().objects[0]);
-    EXPECT_EQ(levelRunning, 0);
-    ASSERT_TRUE(stepUntilPlayer(5000));
-    EXPECT_EQ(placeOfPlayer(), btVector3(1050.0F, 150.0F, 0.0F));
-    EXPECT_EQ(levelRunning, 1);
-    step(110);
-    EXPECT_EQ(shownWords(), "line 9 ");
-    EXPECT_EQ(movementLocked, 1);
-    step(300);
-    EXPECT_EQ(shownWords(), "");
-    step(1550);
-    EXPECT_EQ(movementLocked, 0);
-    EXPECT_EQ(readDeaths(), 0);
-    EXPECT_EQ(latestSave(), "") << "the first chapter begins without a save";
 }
 
 TEST_F(ChapterFlow, EachChapterIsEnteredFromItsIntroSavedNamedAndFinished) {
@@ -99,25 +59,6 @@ TEST_F(ChapterFlow, EachChapterIsEnteredFromItsIntroSavedNamedAndFinished) {
         physicsModule().removeAllScripts();
         step(2);
     }
-}
-
-TEST_F(ChapterFlow, TheEndOfAChapterLeadsToTheIntroOfTheNext) {
-    enterSmallLevel();
-    run("CH1KO");
-    step(2);
-    EXPECT_TRUE(readProgress()[0]);
-    EXPECT_EQ(sceneManager().objects.size(), 1U) << "the backdrop of chapter 2";
-    EXPECT_EQ(originOf(*sceneManager().objects[0]).x(), 0.0F);
-    physicsModule().removeAllScripts();
-    run("CH2END");
-    step(120);
-    EXPECT_EQ(sceneManager().objects.size(), 2U) << "the two of chapter 3";
-    EXPECT_EQ(readDeaths(), 0) << "that nobody plays in an intro is no death";
-    run("CH15END");
-    step(340);
-    EXPECT_THAT(shownWords(), testing::Not(HasSubstr("line 75"))) << "nothing but black";
-    step(160);
-    EXPECT_THAT(shownWords(), HasSubstr("line 75")) << "the menu";
 }
 
 TEST_F(ChapterFlow, ALevelWithoutAPlaceToStartLeavesTheCharacterWhereItWasMade) {
@@ -155,18 +96,6 @@ TEST_F(ChapterFlow, ADeathWithoutASaveLeadsBackToTheStartOfTheLevel) {
     step(200);
     EXPECT_EQ(physicsModule().getGlobalScripts().size(), 1U); // the watch alone
     EXPECT_TRUE(graphicsModule().fadesFinished());
-}
-
-TEST_F(ChapterFlow, ADeathInTheLastLevelEndsTheGame) {
-    writeMap("LAST.vkl", "STARTPOS", "LVL15");
-    startInLevel({"LAST.vkl"});
-    step();
-    sceneManager().player->hurt(1000);
-    step(110);
-    EXPECT_TRUE(sceneManager().objects.empty());
-    EXPECT_EQ(levelRunning, 0);
-    EXPECT_THAT(shownWords(), HasSubstr("332"));
-    EXPECT_EQ(readDeaths(), 1);
 }
 
 TEST_F(ChapterFlow, AMissingMapIsToldInTheMenuAndEndsADirectStart) {

@@ -9,6 +9,8 @@
 #include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
+#include <functional>
+
 namespace {
 
 class Commands : public EngineFixture {
@@ -18,28 +20,29 @@ protected:
         cutsOn = 0;
         EngineFixture::TearDown();
     }
-
-    /// Runs the command as a script would, for an object or for none.
-    static void run(const std::string& name, SceneObject* owner = nullptr) {
-        const std::unique_ptr<CallbackAdd> link(parseScript(name));
-        link->update(owner);
-    }
 };
 
-TEST_F(Commands, EveryCommandIsEnteredAndRunsOnAnEmptySceneAndOnSceneryWithoutABody) {
+TEST_F(Commands, EveryCommandIsEnteredAndRunsWhateverItsOwnerIsWithNothingElseThere) {
     SceneObjectDescription scenery;
     scenery.physical = false;
+    const std::function<SceneObject*()> owners[] = {[] { return nullptr; },
+                                                    [&] {
+                                                        auto* box = new SceneObject(
+                                                            makeBoxParts(scenery, 0, 0, 5, 5));
+                                                        sceneManager().addSceneObject(box);
+                                                        return box;
+                                                    },
+                                                    [] { return addNamed("ENEMY", 0, 0); }};
     for (const auto table : commandTables()) {
         for (const NamedCommand& command : table) {
             EXPECT_TRUE(callbackTable().contains(command.name)) << command.name;
-            run(command.name);
-            step();
-            sceneManager().clearScene(); // some bring monsters wherever they run
-            auto* box = new SceneObject(makeBoxParts(scenery, 0, 0, 5, 5));
-            sceneManager().addSceneObject(box);
-            run(command.name, box);
-            step();
-            sceneManager().clearScene();
+            for (const auto& makeOwner : owners) {
+                const std::unique_ptr<CallbackAdd> link(parseScript(command.name));
+                link->update(makeOwner());
+                step(2);
+                physicsModule().removeAllScripts();
+                sceneManager().clearScene(); // some bring monsters wherever they run
+            }
         }
     }
 }

@@ -1,6 +1,4 @@
 #include "PhysicsBodies.h"
-#include "graphicsModule/Camera.h"
-#include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/InterfaceGraphicsObject.h"
 #include "graphicsModule/MultiGraphics.h"
 #include "inputModule/GameInput.h"
@@ -8,7 +6,6 @@
 #include "inputModule/LambdaButton.h"
 #include "inputModule/SliderGraphics.h"
 #include "inputModule/SliderSetButton.h"
-#include "physicsModule/PhysicsModule.h"
 #include "support/EngineFixture.h"
 
 namespace {
@@ -80,37 +77,6 @@ TEST_F(GameControlsTest, ALockStopsTheLegsAndLeavesTheHands) {
     movementLocked = 0;
     release('X');
     EXPECT_EQ(player->keys, playerKey::primary) << "a key held through the lock is pressed again";
-}
-
-TEST_F(GameControlsTest, EscapeIsForThePlayersMenuEvenWhileLocked) {
-    press(platform::keyEscape);
-    EXPECT_TRUE(inputModule().getFrames().empty()) << "without a character nothing happens";
-    addPlayer(0, 0);
-    graphicsModule().screenFade->setColour(0, 0, 0, 0); // not while the program fades up
-    graphicsModule().sceneFade->setColour(0, 0, 0, 0);
-    movementLocked = 1;
-    press(platform::keyEscape);
-    EXPECT_FALSE(physicsModule().active);
-    release(platform::keyEscape);
-    press(platform::keyEscape);
-    EXPECT_TRUE(physicsModule().active);
-}
-
-TEST_F(GameControlsTest, TheMouseAimsAndUsesTheHands) {
-    mouseAt(100, 100, 0, 1); // without a character nothing happens
-    const Player* player = addPlayer(0, 0);
-    double x = 0;
-    double y = 0;
-    mouseAt(900, 700, 0, 1);
-    graphicsModule().camera->getMouseWorld(x, y);
-    EXPECT_NEAR(player->aimPoint.x(), x, 1e-2);
-    EXPECT_NEAR(player->aimPoint.y(), y, 1e-2);
-    EXPECT_EQ(player->keys, playerKey::primary);
-    mouseAt(900, 700, 1, 1);
-    mouseAt(900, 700, 0, 0);
-    EXPECT_EQ(player->keys, playerKey::secondary);
-    mouseAt(900, 700, 1, 0);
-    EXPECT_EQ(player->keys, 0U);
 }
 
 TEST_F(GameControlsTest, AButtonFiresOnAnyReleaseAndMayDeleteItself) {

@@ -19,11 +19,9 @@ protected:
 
     static bool gateMoves(SceneObject& gate) {
         const float height = originOf(gate).y();
-        GateAndShaft::stepOnce();
+        physicsModule().update();
         return originOf(gate).y() != height;
     }
-
-    static void stepOnce() { physicsModule().update(); }
 };
 
 TEST_F(GateAndShaft, TheGateHoldsAsLongAsTheWedgeTouchesBothHolders) {
@@ -51,15 +49,11 @@ TEST_F(GateAndShaft, TheGateHoldsAsLongAsTheWedgeTouchesBothHolders) {
 
 TEST_F(GateAndShaft, OfTwoLianasOneSnapsEvenIfBothTriggersAreTouchedAtOnce) {
     for (const char* liana : {"LIA1", "LIA2"}) {
-        named(addBox(0, 500, 5, 5, 0), liana);
+        addNamed(liana, 0, 500);
     }
     for (const int number : {1, 2}) {
         const std::string digit = std::to_string(number);
-        SceneObject* trigger = named(addBox(0, 0, 20, 20, 0), "LIA" + digit + "T");
-        trigger->addAddition(parseScript("TRIGGER -P LOCK CH2LIA" + digit));
-        trigger->physicsObject->body->setCollisionFlags(
-            trigger->physicsObject->body->getCollisionFlags() |
-            btCollisionObject::CF_NO_CONTACT_RESPONSE);
+        letThrough(addNamed("LIA" + digit + "T", 0, 0, 20, "TRIGGER -P LOCK CH2LIA" + digit));
     }
     addPlayer(0, 10);
     step(150);
@@ -83,13 +77,13 @@ TEST_F(GateAndShaft, ThoseBehindTheWindowHuntAndCanBeHurtByLightOnceItBreaks) {
 }
 
 TEST_F(GateAndShaft, TheWayOutOpensOnlyWhenNoneIsLeftInsideTheGate) {
-    SceneObject* door = named(addBox(0, 0, 20, 20, 0), "WYJSCIE");
-    named(addBox(0, 100, 5, 5, 0), "WYJSCIED");
-    SceneObject* pane = named(addBox(0, 300, 5, 5, 0), "OKNO");
+    SceneObject* door = addNamed("WYJSCIE", 0, 0, 20);
+    addNamed("WYJSCIED", 0, 100);
+    SceneObject* pane = addNamed("OKNO", 0, 300);
     addPlayer(700, 0);
     for (const float x : {-600.0F, 100.0F}) {
         auto* monster = new EvilPlayer;
-        monster->physicsObject->body->getWorldTransform().setOrigin(btVector3(x, -300, 0));
+        put(*monster, x, -300);
         sceneManager().addSceneObject(monster);
     }
     pane->addAddition(parseScript("CH3LSPAWNS"));

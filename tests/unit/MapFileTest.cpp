@@ -1,12 +1,11 @@
 #include "support/EngineFixture.h"
 
 #include "Failure.h"
-#include "TextStream.h"
+#include "Records.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/GraphicsObject.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
-#include "sceneManager/MapFile.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
@@ -64,9 +63,7 @@ const std::string namedWithAll =
 
 std::string chainRecord() {
     const std::unique_ptr<CallbackAdd> chain(parseScript(everyWord));
-    TextWriter writer;
-    chain->save(writer);
-    return writer.text();
+    return recordOf(*chain);
 }
 
 /// A map with every kind of graphics, shape, class and joint, and a chain of every word.
@@ -88,10 +85,9 @@ std::string everyRecord() {
 
 std::string save() {
     testing::internal::CaptureStdout(); // joints to the world have their say
-    TextWriter writer;
-    writeScene(writer);
+    std::string text = storedScene();
     testing::internal::GetCapturedStdout();
-    return writer.text();
+    return text;
 }
 
 SceneBundle parse(const std::string& text) {
@@ -225,14 +221,7 @@ TEST_F(MapFileTest, RecordsThatCannotBelongTogetherAreRefused) {
     EXPECT_EQ(failureOf("1 " + body + "1 7 " + end), "");           // no such joint: none
 }
 
-TEST_F(MapFileTest, AFileThatHoldsNoPackedTextIsRefused) {
-    directory.write("bad.vkl", "\xFF\xFF\xFF\xFF\xFF");
-    EXPECT_EQ(::failureOf([] { loadMapFile("bad.vkl", true); }),
-              "file corrupted: bad.vkl is no packed text");
-    EXPECT_THROW(loadMapFile("none.vkl", true), std::string);
-}
-
-TEST_F(MapFileTest, DamagedGraphicsAreRefused) {
+TEST_F(MapFileTest, DamagedGraphicsAndGroupsThatNestTooDeepAreRefused) {
     const std::string damaged[] = {
         "0 0 ",                                            // of a class that is not stored
         "7 0 ",                                            // of no class
@@ -251,9 +240,6 @@ TEST_F(MapFileTest, DamagedGraphicsAreRefused) {
     for (const std::string& text : damaged) {
         EXPECT_TRUE(isCorruption(graphicsFailure(text))) << text;
     }
-}
-
-TEST_F(MapFileTest, GroupsNestSixteenDeepAndNoDeeper) {
     EXPECT_EQ(graphicsFailure(nestedGroups(16)), "");
     EXPECT_NE(graphicsFailure(nestedGroups(17)), "");
     EXPECT_NE(graphicsFailure(nestedGroups(100000)), "");

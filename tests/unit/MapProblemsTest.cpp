@@ -79,6 +79,15 @@ TEST_F(MapCompilerTest, AProblemNamesFileObjectAndReason) {
         {R"({"id":6,"type":"Monster")" + area + "}", "drawn as a point"},
         {monster + R"(},{"id":7,"type":"Wall","x":5,"y":0,"width":50,"height":50})",
          "object 6: stands in object 7"},
+        {R"({"id":6,"type":"Emitter","point":true)" + with({{"life", 0}}) + "}",
+         "\"life\" must not be below 1"},
+        {R"({"id":6,"type":"Rope","ellipse":true,"width":9})", "a line or a rectangle"},
+        {R"({"id":6,"type":"Rope","polyline":[{"x":0,"y":0}]})", "no length"},
+        {R"({"id":5,"type":"Wall")" + area +
+             R"(},{"id":6,"type":"Rope","x":9,"y":9,"width":5,)"
+             R"("height":20})",
+         "lies in object 5 altogether"},
+        {R"({"id":6,"type":"Rope","width":5,"height":90000})", "too long"},
         {R"({"id":6,"type":"Scenery")" + area + with({{"sheetColumns", 4}, {"sheetRows", 2}}) + "}",
          "as many rows as columns"},
     };

@@ -31,16 +31,6 @@ protected:
         return {positions.data(), texcoords.data(), colours.data(), count};
     }
 
-    void expectPlace(float x, float y, float z) {
-        const PaintVertex place{1.0F, 2.0F, 3.0F, 0.0F, 0.0F, 1.0F, 1.0F, 1.0F, 1.0F};
-        painter->points({&place, 1});
-        painter->flush();
-        const PaintVertex& drawn = device->draws.back().vertices.front();
-        EXPECT_FLOAT_EQ(drawn.x, x);
-        EXPECT_FLOAT_EQ(drawn.y, y);
-        EXPECT_FLOAT_EQ(drawn.z, z);
-    }
-
     std::unique_ptr<Painter> painter;
     RecordingDevice* device; // owned by the painter
 };
@@ -113,24 +103,6 @@ TEST_F(PainterTest, WhatWasCollectedReachesTheDeviceBeforeItIsUsedDirectly) {
     painter->bindTexture(3);
     EXPECT_EQ(device->drawCount, 3);
     EXPECT_EQ(device->draws.back().state.texture, -1);
-}
-
-TEST_F(PainterTest, TransformsApplyFromTheLastOneCalledToTheFirst) {
-    btTransform quarterTurn(btQuaternion(btVector3(0.0F, 0.0F, 1.0F), SIMD_HALF_PI),
-                            btVector3(10.0F, 20.0F, 5.0F));
-    expectPlace(1.0F, 2.0F, 3.0F);
-    painter->pushTransform();
-    painter->translate(100.0F, 200.0F, 1.0F);
-    painter->scale(2.0F);
-    expectPlace(102.0F, 204.0F, 4.0F);
-    painter->pushTransform();
-    painter->multiply(quarterTurn);
-    expectPlace(116.0F, 242.0F, 9.0F); // (1, 2) turns to (-2, 1)
-    painter->popTransform();
-    expectPlace(102.0F, 204.0F, 4.0F);
-    painter->popTransform();
-    expectPlace(1.0F, 2.0F, 3.0F);
-    EXPECT_DEATH(painter->popTransform(), "source/graphicsModule/Painter");
 }
 
 TEST_F(PainterTest, EveryShapeHasTheIndicesOfItsKind) {

@@ -4,8 +4,6 @@
 #include "TextStream.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/EqItem.h"
-#include "sceneManager/Equipment.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,13 +11,6 @@
 namespace {
 
 constexpr float stepSeconds = 1.0F / 60.0F;
-
-/// Something to hang on.
-class Tool : public EqItem {
-public:
-    int getType() const override { return 9; }
-    bool hangsOnLooseObject() const override { return true; }
-};
 
 /// A character of radius 15 that stands on the middle of a wide floor whose top is at 0.
 class PlayerTest : public EngineFixture {
@@ -31,14 +22,8 @@ protected:
         step(25); // past the first steps, in which nobody can jump
     }
 
-    btRigidBody& body() const { return *player->physicsObject->body; }
-    btVector3 velocity() const { return body().getLinearVelocity(); }
-    btVector3 place() const { return body().getWorldTransform().getOrigin(); }
-    void placeAt(float x, float y) const {
-        body().getWorldTransform().setOrigin({x, y, 0.0F});
-        body().setLinearVelocity({0.0F, 0.0F, 0.0F});
-    }
-
+    btVector3 velocity() const { return bodyOf(*player).getLinearVelocity(); }
+    btVector3 place() const { return originOf(*player); }
     /// The highest that the character comes when the key is held for that many steps.
     float apexOfJump(int heldSteps) {
         player->keys = playerKey::up;
@@ -74,23 +59,17 @@ TEST_F(PlayerTest, WalksToTopSpeedAndStandsStillAtOnce) {
 }
 
 TEST_F(PlayerTest, InTheAirAStepWithoutKeysLeavesFourFifths) {
-    placeAt(0.0F, 500.0F);
-    body().setLinearVelocity({100.0F, 0.0F, 0.0F});
+    put(*player, 0.0F, 500.0F);
+    bodyOf(*player).setLinearVelocity({100.0F, 0.0F, 0.0F});
     step(30);
     EXPECT_NEAR(velocity().x(), 100.0F * std::pow(0.8F, 30.0F), 0.1F);
     EXPECT_NEAR(velocity().y(), -640.0F * 30.0F * stepSeconds, 1.0F);
-    auto* tool = new Tool;
-    player->equipment->add(tool);
-    tool->select();
-    body().setLinearVelocity({100.0F, 0.0F, 0.0F});
-    step(1);
-    EXPECT_EQ(velocity().x(), 100.0F); // hanging, the character swings freely
 }
 
 TEST_F(PlayerTest, AWallStopsTheBlendButNotTheShift) {
     // In the air, where no ground ends the look for walls.
     addBox(-25.0F, 500.0F, 10.0F, 400.0F, 0.0F);
-    placeAt(0.0F, 500.0F);
+    put(*player, 0.0F, 500.0F);
     step(2);
     const float before = place().x();
     const float speed = velocity().x();
@@ -115,7 +94,7 @@ TEST_F(PlayerTest, JumpsStartTwentyOneStepsApart) {
     step(1);
     EXPECT_NEAR(velocity().y(), 170.0F, 0.5F);
     player->keys = 0;
-    placeAt(0.0F, 15.0F);
+    put(*player, 0.0F, 15.0F);
     step(5);
     ASSERT_EQ(player->supportNow, floor);
     step(14);
@@ -126,9 +105,9 @@ TEST_F(PlayerTest, JumpsStartTwentyOneStepsApart) {
 
 TEST_F(PlayerTest, AJumpAfterTheLedgeHasSeventeenSteps) {
     for (const auto& [stepsInAir, jumps] : {std::pair{17, true}, std::pair{18, false}}) {
-        placeAt(0.0F, 15.0F);
+        put(*player, 0.0F, 15.0F);
         step(40);
-        placeAt(0.0F, 800.0F);
+        put(*player, 0.0F, 800.0F);
         step(stepsInAir - 1);
         player->keys = playerKey::up;
         step(1);
@@ -140,7 +119,7 @@ TEST_F(PlayerTest, AJumpAfterTheLedgeHasSeventeenSteps) {
 
 TEST_F(PlayerTest, ALedgeThatHasGoneServesNoJump) {
     SceneObject* ledge = addBox(0.0F, 490.0F, 50.0F, 10.0F, 0.0F);
-    placeAt(0.0F, 515.0F);
+    put(*player, 0.0F, 515.0F);
     step(25);
     ASSERT_EQ(player->supportNow, ledge);
     sceneManager().removeSceneObject(ledge);
@@ -156,7 +135,7 @@ TEST_F(PlayerTest, RidesWhatMovesAndPushesItBackwards) {
     raftBody.setLinearFactor({1.0F, 0.0F, 0.0F});
     raftBody.setAngularFactor({0.0F, 0.0F, 0.0F});
     raftBody.setLinearVelocity({30.0F, 0.0F, 0.0F});
-    placeAt(0.0F, 535.0F);
+    put(*player, 0.0F, 535.0F);
     step(10);
     ASSERT_EQ(player->supportNow, raft);
     EXPECT_NEAR(velocity().x(), 30.0F, 0.01F);
@@ -183,7 +162,7 @@ TEST_F(PlayerTest, WalksToItsTargetAndLetsGo) {
 
 TEST_F(PlayerTest, SwimsByStrokes) {
     player->waterCount = 1;
-    placeAt(0.0F, 500.0F);
+    put(*player, 0.0F, 500.0F);
     step(1);
     player->keys = playerKey::up | playerKey::down | playerKey::right;
     step(1);
@@ -194,26 +173,6 @@ TEST_F(PlayerTest, SwimsByStrokes) {
     player->keys = playerKey::down;
     step(16);
     EXPECT_TRUE(player->noLegTuck);
-}
-
-TEST_F(PlayerTest, LinesFollowEachOtherAboveTheCharacter) {
-    player->say("one", 3);
-    player->say("two", 0); // counts as one step
-    EXPECT_EQ(shownLine(), "");
-    step(1);
-    EXPECT_EQ(shownLine(), "one");
-    step(2);
-    EXPECT_EQ(shownLine(), "one");
-    step(1);
-    EXPECT_EQ(shownLine(), "two");
-    step(1);
-    EXPECT_EQ(shownLine(), "");
-    player->say("three", 100);
-    player->say("four", 100);
-    step(1);
-    player->silence();
-    step(200);
-    EXPECT_EQ(shownLine(), "");
 }
 
 TEST_F(PlayerTest, ArmourTakesItsShareAndDeathComesBelowZero) {

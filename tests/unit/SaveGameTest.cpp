@@ -8,8 +8,6 @@
 #include "game/flow/Progress.h"
 #include "game/flow/SaveGame.h"
 #include "inputModule/InputModule.h"
-#include "sceneManager/Equipment.h"
-#include "sceneManager/Hands.h"
 
 #include <gmock/gmock.h>
 
@@ -92,21 +90,6 @@ TEST_F(SaveGame, ADeathLeadsBackToTheLatestSave) {
     step(110);
     EXPECT_NE(sceneManager().player, nullptr) << "a save is read once in a run";
     EXPECT_EQ(readDeaths(), 2);
-}
-
-TEST_F(SaveGame, WhatIsHeldIsSavedLyingAndHeldOn) {
-    const btVector3 place = originOf(player());
-    SceneObject* crate = addBox(place.x() + 35.0F, place.y(), 20.0F, 20.0F, 1.0F);
-    auto& hands = static_cast<Hands&>(*player().equipment->current);
-    step();
-    ASSERT_TRUE(hands.grab(true));
-    crate->physicsObject->body->setLinearVelocity({50.0F, 0.0F, 0.0F});
-    run("ISAVEGAME");
-    EXPECT_EQ(hands.heldObject(), crate);
-    EXPECT_EQ(physicsModule().getJoints().size(), 1U);
-    run("LOADLASTSAVE");
-    EXPECT_EQ(sceneManager().objects.size(), 4U);
-    EXPECT_EQ(physicsModule().getJoints().size(), 0U);
 }
 
 TEST_F(SaveGame, ACheckpointFlickersAndSavesAtTheThirdFlash) {

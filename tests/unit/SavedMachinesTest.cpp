@@ -1,27 +1,20 @@
 #include "FloorFixture.h"
 
-#include "TextStream.h"
+#include "Records.h"
 #include "graphicsModule/ParticleEmiter.h"
-#include "sceneManager/MapFile.h"
 
 namespace {
 
 /// A saved game brings back what runs, in the state in which it stood.
 class SavedMachines : public FloorFixture {
 protected:
-    static std::string save() {
-        TextWriter writer;
-        writeScene(writer);
-        return writer.takeText();
-    }
-
     /// Saves the scene, empties it and reads it back; the text must come out the same.
     void saveAndLoad() {
-        const std::string text = save();
+        const std::string text = storedScene();
         sceneManager().clearScene();
         TextReader reader(text);
         sceneManager().addScene(parseScene(reader, false));
-        EXPECT_EQ(save(), text);
+        EXPECT_EQ(storedScene(), text);
         floor = sceneManager().objects.at(0);
         runs = 0;
     }
@@ -89,11 +82,7 @@ TEST_F(SavedMachines, AnEmitterSpraysOnAndWhatIsInFlightIsNotStored) {
 }
 
 TEST_F(SavedMachines, ADialogThatWasHeardStaysClosed) {
-    const auto addDialog = [this](const std::string& record) {
-        TextReader reader(record);
-        floor->addAddition(readAddition(reader));
-    };
-    addDialog("0 1 1 0 2 hm 2 ");
+    floor->addAddition(additionOf("0 1 1 0 2 hm 2 ").release());
     Player* player = addPlayer(0.0F, 25.0F);
     player->type = sceneObjectType::testPlayer; // only the protagonist is spoken to
     step(30);

@@ -5,49 +5,16 @@
 #include "graphicsModule/GraphicsModule.h"
 #include "graphicsModule/LockedCamera.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/Forcefield.h"
 #include "sceneManager/MapFile.h"
-#include "sceneManager/SceneObjectDescription.h"
 #include "sceneManager/So_Addons/HealthAdd.h"
-#include "sceneManager/So_Addons/ObjectNameAdd.h"
 
 #include <limits>
 
 namespace {
 
-float fallOf(const SceneObject* object) {
-    return object->physicsObject->body->getLinearVelocity().y();
-}
-
 constexpr const char* unknownObject = "niema takiego obiektu SceneObject\n";
 
-class SceneManagerTest : public EngineFixture {
-protected:
-    static SceneObject* addNamed(float x, const char* name) {
-        auto* box = new SceneObject(makeBoxParts({}, x, 0.0F, 5.0F, 5.0F));
-        box->addAddition(new ObjectNameAdd(name));
-        sceneManager().addSceneObject(box);
-        return box;
-    }
-};
-
-/// Marks itself for removal, twice, in each step.
-class LeavingObject : public SceneObject {
-public:
-    explicit LeavingObject(int& deletions)
-        : SceneObject(makeBoxParts({}, 0.0F, 0.0F, 5.0F, 5.0F)),
-          deletionCount(deletions) {}
-    ~LeavingObject() override { ++deletionCount; }
-
-    void update() override {
-        sceneManager().markForRemoval(this);
-        sceneManager().markForRemoval(this);
-        EXPECT_EQ(deletionCount, 0);
-    }
-
-private:
-    int& deletionCount;
-};
+using SceneManagerTest = EngineFixture;
 
 } // namespace
 
@@ -64,12 +31,18 @@ TEST_F(SceneManagerTest, AddingTwiceAndRemovingTheUnknownOnlySaySo) {
 }
 
 TEST_F(SceneManagerTest, AMarkedObjectSurvivesItsStepAndGoesOnce) {
-    int deletions = 0;
-    sceneManager().addSceneObject(new LeavingObject(deletions));
+    int deaths = 0;
+    SceneObject* box = addBox(0.0F, 0, 5, 5, 0);
+    const auto leave = [&] {
+        sceneManager().markForRemoval(box);
+        sceneManager().markForRemoval(box);
+        EXPECT_EQ(deaths, 0);
+    };
+    box->addAddition(new Probe(leave, &deaths));
     testing::internal::CaptureStdout();
     step(2);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
-    EXPECT_EQ(deletions, 1);
+    EXPECT_EQ(deaths, 1);
 }
 
 TEST_F(SceneManagerTest, AMarkDoesNotPassToAnotherObject) {
@@ -100,7 +73,7 @@ TEST_F(SceneManagerTest, TheViewStaysWhereTheFollowedObjectWent) {
 }
 
 TEST_F(SceneManagerTest, AStoredSceneIsReadAgainWithoutItsFile) {
-    addNamed(7.0F, "door");
+    addNamed("door", 7.0F, 0.0F);
     graphicsModule().ambientTarget = {0.25F, 0.5F, 0.75F};
     sceneManager().saveMap("save/a.vkl");
     sceneManager().clearScene();
@@ -154,23 +127,4 @@ TEST_F(SceneManagerTest, HurtReachesHitPointsAndNothingElse) {
     box->hurt(std::numeric_limits<int>::max());
     box->hurt(std::numeric_limits<int>::max());
     EXPECT_EQ(health->value, std::numeric_limits<int>::min());
-}
-
-TEST_F(SceneManagerTest, AForceOfOneHoldsABodyOfAnyMassAgainstGravity) {
-    auto* field = new Forcefield(makeBoxParts({}, 0, 0, 200, 50), 0.0F, 1.0F);
-    sceneManager().addSceneObject(field);
-    const SceneObject* light = addBox(-50, 0, 10, 10, 0.25F);
-    const SceneObject* heavy = addBox(50, 0, 10, 10, 40.0F);
-    const SceneObject* outside = addBox(500, 0, 10, 10, 1.0F);
-    step(30);
-    // The first step has no contact yet, so that each falls on with the speed of one step.
-    const float firstSpeed = -640.0F / 60.0F;
-    EXPECT_NEAR(fallOf(light), firstSpeed, 0.1F);
-    EXPECT_NEAR(fallOf(heavy), firstSpeed, 0.1F);
-    EXPECT_LT(fallOf(outside), 20.0F * firstSpeed);
-    field->force.setZero();
-    step(1);
-    const float before = fallOf(light);
-    step(1);
-    EXPECT_NEAR(fallOf(light), before + firstSpeed, 0.1F);
 }

@@ -37,28 +37,21 @@ protected:
 
 } // namespace
 
-TEST_F(Scheduler, AFrameIsChargedTheMeanOfTheSamplesPresent) {
-    ModuleManager& manager = moduleManager();
+TEST_F(Scheduler, AFrameIsChargedTheMeanOfTenSamplesAndAStallIsClamped) {
+    const ModuleManager& manager = moduleManager();
     tickAfter(0.01);
     EXPECT_NEAR(manager.frameTime, 0.01, 1e-6);
     tickAfter(0.04);
-    EXPECT_NEAR(manager.frameTime, 0.025, 1e-6);
-    tickAfter(0.01);
-    EXPECT_NEAR(manager.frameTime, 0.02, 1e-6);
-}
-
-TEST_F(Scheduler, AStallIsClampedAndLeavesTheMeanAfterTenTicks) {
-    ModuleManager& manager = moduleManager();
+    EXPECT_NEAR(manager.frameTime, 0.025, 1e-6) << "of those that are there";
     for (int i = 0; i < 10; ++i) {
         tickAfter(0.01);
     }
     tickAfter(7.0);
-    EXPECT_EQ(manager.frameSamples.size(), 10U);
-    EXPECT_NEAR(manager.frameTime, 0.01 + 0.024, 1e-6);
     for (int i = 0; i < 9; ++i) {
-        tickAfter(0.01);
         EXPECT_NEAR(manager.frameTime, 0.01 + 0.024, 1e-6);
+        tickAfter(0.01);
     }
+    EXPECT_NEAR(manager.frameTime, 0.01 + 0.024, 1e-6);
     tickAfter(0.01);
     EXPECT_NEAR(manager.frameTime, 0.01, 1e-6);
 }
@@ -102,14 +95,6 @@ TEST_F(Scheduler, TheLoopRunsATickBeforeItLooksWhetherToEnd) {
     window->close();
     moduleManager().runLoop();
     EXPECT_EQ(module.updates, 2);
-}
-
-TEST_F(Scheduler, LeftAltWithF4EndsTheLoop) {
-    CountingModule& module = add(-1.0, false);
-    window->press(platform::keyLeftAlt);
-    window->press(platform::keyF4);
-    moduleManager().runLoop();
-    EXPECT_EQ(module.updates, 1);
 }
 
 TEST_F(Scheduler, SettingsReachTheDiskWhenSavedAndAFailureIsPrinted) {

@@ -9,11 +9,9 @@
 #include <SDL.h>
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <thread>
 
 namespace {
 
@@ -22,10 +20,8 @@ using testing::HasSubstr;
 using testing::Not;
 
 /// A quiet WAV file of that many samples.
-std::string makeQuiet(unsigned rate, unsigned channels, unsigned bits, unsigned samples) {
-    return makeWav(
-        rate, channels, bits,
-        std::string(std::size_t{samples} * channels * bits / 8, bits == 8 ? '\x80' : '\0'));
+std::string makeQuiet(unsigned channels, unsigned samples) {
+    return makeWav(44100, channels, 16, std::string(std::size_t{samples} * channels * 2, '\0'));
 }
 
 /// The audio library on a device that swallows all, in real time.
@@ -53,36 +49,22 @@ protected:
         return testing::internal::GetCapturedStderr();
     }
 
-    /// False if it does not come true in some seconds.
-    template <class Condition>
-    static bool comesTrue(Condition condition) {
-        for (int i = 0; i < 500; ++i) {
-            if (condition()) {
-                return true;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-        return false;
-    }
-
     TempDirectory directory;
 };
 
 } // namespace
 
-TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkippedAndOddOnesPlay) {
+TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkipped) {
     makeFolders();
-    const std::string good = makeQuiet(44100, 2, 16, 500);
+    const std::string good = makeQuiet(2, 500);
     directory.write("sound/good.wav", good);
-    directory.write("sound/eight.wav", makeQuiet(8000, 1, 8, 500));
-    directory.write("sound/fast.wav", makeQuiet(48000, 1, 16, 500));
     directory.write("sound/cut.wav", good.substr(0, 600));
     directory.write("sound/empty.wav", "");
-    directory.write("sound/silent.wav", makeQuiet(44100, 2, 16, 0));
+    directory.write("sound/silent.wav", makeQuiet(2, 0));
     directory.write("sound/short.wav", good.substr(0, 30));
     directory.write("sound/text.wav", "not a sound at all");
     directory.write("sound/lying.wav", good.substr(0, 40) + "\xFF\xFF\xFF\xFF" + good.substr(44));
-    directory.write("sound/noChannels.wav", makeQuiet(44100, 0, 16, 4));
+    directory.write("sound/noChannels.wav", makeQuiet(0, 4));
     directory.write("music/empty.ogg", "");
     directory.write("music/text.ogg", "OggS but no more");
     directory.write("music/good.wav", good);
@@ -94,10 +76,9 @@ TEST_F(SdlMixerTest, FilesThatCannotBePlayedAreNamedAndSkippedAndOddOnesPlay) {
                       HasSubstr("silent.wav: no samples\n"), HasSubstr("short.wav: "),
                       HasSubstr("text.wav: "), HasSubstr("noChannels.wav: "),
                       HasSubstr("folder.wav: "), HasSubstr("music/empty.ogg: "),
-                      HasSubstr("text.ogg: "), HasSubstr("empty.mid: "), Not(HasSubstr("good")),
-                      Not(HasSubstr("eight")), Not(HasSubstr("fast"))));
+                      HasSubstr("text.ogg: "), HasSubstr("empty.mid: "), Not(HasSubstr("good"))));
     testing::internal::CaptureStderr();
-    for (const char* name : {"good", "eight", "fast", "cut", "empty", "silent", "lying"}) {
+    for (const char* name : {"good", "cut", "empty", "silent", "lying"}) {
         soundManager().playFlat(std::string(name) + ".wav", 128);
     }
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
@@ -108,32 +89,6 @@ TEST_F(SdlMixerTest, WithoutFoldersTheGameIsMerelySilent) {
     soundManager().playFlat("click.wav", 128);
     soundManager().playMusic("theme.ogg");
     soundManager().stopAll("roll.wav");
-}
-
-TEST_F(SdlMixerTest, ChannelsAndMusicEndByThemselves) {
-    directory.write("sound.wav", makeQuiet(44100, 2, 16, 4410));
-    const std::unique_ptr<Mixer> mixer = makeSdlMixer();
-    ASSERT_TRUE(mixer->initialise());
-    ASSERT_TRUE(mixer->open());
-    const SoundId sound = mixer->loadSound(directory.file("sound.wav"));
-    const MusicId music = mixer->loadMusic(directory.file("sound.wav"));
-    EXPECT_EQ(mixer->loadSound(directory.file("none.wav")), SoundId::none);
-
-    EXPECT_EQ(mixer->play(sound, false), 0);
-    EXPECT_EQ(mixer->play(sound, true), 1);
-    EXPECT_TRUE(mixer->isPlaying(0));
-    EXPECT_TRUE(comesTrue([&] { return !mixer->isPlaying(0); })) << "played once";
-    EXPECT_TRUE(mixer->isPlaying(1)) << "for ever";
-    mixer->halt(1);
-    EXPECT_FALSE(mixer->isPlaying(1));
-
-    ASSERT_TRUE(mixer->fadeInMusic(music, 20));
-    EXPECT_FALSE(mixer->takeMusicFinished());
-    mixer->fadeOutMusic(50);
-    EXPECT_TRUE(comesTrue([&] { return !mixer->isMusicPlaying(); }));
-    EXPECT_TRUE(comesTrue([&] { return mixer->takeMusicFinished(); }));
-    EXPECT_FALSE(mixer->takeMusicFinished()) << "told once";
-    ASSERT_TRUE(mixer->fadeInMusic(music, 20)); // still running when all is closed
 }
 
 TEST_F(SdlMixerTest, ASignalToEndStillEndsTheProcess) {

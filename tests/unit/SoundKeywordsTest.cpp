@@ -20,9 +20,7 @@ class SoundKeywords : public EngineFixture {
 protected:
     void prepareDirectory() override {
         EngineFixture::prepareDirectory();
-        for (const char* name : {"a", "b", "minibell", "switch", "switchoff"}) {
-            directory.write("sound/" + std::string(name) + ".wav", "");
-        }
+        writeSounds({"a", "b", "minibell", "switch", "switchoff"});
     }
 
     SceneObject* addMachine(const std::string& script, float mass = 1.0F) {

@@ -2,12 +2,10 @@
 
 #include "support/EngineFixture.h"
 
+#include "Files.h"
 #include "ModuleManager.h"
 #include "ProcessValues.h"
 #include "physicsModule/PhysicsModule.h"
-
-#include <fstream>
-#include <sstream>
 
 namespace {
 
@@ -26,9 +24,7 @@ protected:
 
     void prepareDirectory() override {
         EngineFixture::prepareDirectory();
-        std::ostringstream content;
-        content << std::ifstream("config.txt", std::ios::binary).rdbuf();
-        std::string settings = content.str();
+        std::string settings = readFile("config.txt");
         settings.replace(settings.find(original), original.size(), changed);
         directory.write("config.txt", settings);
     }
@@ -51,26 +47,27 @@ TEST(WindowSizeChoice, TakesTheLastModeThatIsLargeAndOfTrueColour) {
     EXPECT_FALSE(chooseWindowSize(Modes{{512, 800, 8, 8, 8}, {800, 512, 8, 8, 8}}));
 }
 
-TEST_F(StartupTest, EagerPhysicsPaysItsDebtAtOnceAndLazyPhysicsDoesNot) {
-    startWith("LAZY_PHYSICS 0", "LAZY_PHYSICS 0");
-    EXPECT_TRUE(physicsModule().catchUp);
-    EXPECT_EQ(physicsModule().period, 1.0 / 60.0);
-    TearDown();
-    startWith("LAZY_PHYSICS 0", "LAZY_PHYSICS 1");
-    EXPECT_FALSE(physicsModule().catchUp);
-    TearDown();
-    startWith("LAZY_PHYSICS 0", "");
-    EXPECT_FALSE(physicsModule().catchUp);
-}
-
-TEST_F(StartupTest, AStepIsTheInverseOfThePhysicsSpeedAndStaysFinite) {
-    startWith("PHYSICS_SPEED 60", "PHYSICS_SPEED 30");
-    EXPECT_EQ(physicsStep, 1.0F / 30.0F);
-    for (const char* bad : {"PHYSICS_SPEED 0", "PHYSICS_SPEED -60", "PHYSICS_SPEED x", ""}) {
+TEST_F(StartupTest, PhysicsTakesItsPaceFromItsSettingsAndStaysFinite) {
+    struct Case {
+        const char *from, *to;
+        bool catchesUp;
+        float stepSeconds;
+    };
+    const Case cases[] = {{"LAZY_PHYSICS 0", "LAZY_PHYSICS 0", true, 1.0F / 60.0F},
+                          {"LAZY_PHYSICS 0", "LAZY_PHYSICS 1", false, 1.0F / 60.0F},
+                          {"LAZY_PHYSICS 0", "", false, 1.0F / 60.0F},
+                          {"PHYSICS_SPEED 60", "PHYSICS_SPEED 30", true, 1.0F / 30.0F},
+                          {"PHYSICS_SPEED 60", "PHYSICS_SPEED 0", true, 1.0F / 60.0F},
+                          {"PHYSICS_SPEED 60", "PHYSICS_SPEED -60", true, 1.0F / 60.0F},
+                          {"PHYSICS_SPEED 60", "PHYSICS_SPEED x", true, 1.0F / 60.0F},
+                          {"PHYSICS_SPEED 60", "", true, 1.0F / 60.0F}};
+    for (const Case& c : cases) {
+        startWith(c.from, c.to);
+        EXPECT_EQ(physicsModule().catchUp, c.catchesUp) << c.to;
+        EXPECT_EQ(physicsStep, c.stepSeconds) << c.to;
         TearDown();
-        startWith("PHYSICS_SPEED 60", bad);
-        EXPECT_EQ(physicsStep, 1.0F / 60.0F) << bad;
     }
+    startWith("", "");
 }
 
 TEST_F(StartupTest, AMinimisedWindowIsNotDrawnWhileTheRestGoesOn) {
