@@ -1,8 +1,8 @@
 #include "FloorFixture.h"
 
+#include "People.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
-#include "sceneManager/EvilPlayer.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,14 +13,6 @@ namespace {
 
 class OtherSide : public FloorFixture {
 protected:
-    static EvilPlayer* addMonster(float x, float y) {
-        auto* monster = new EvilPlayer;
-        monster->state = EvilState::puppet;
-        put(*monster, x, y);
-        sceneManager().addSceneObject(monster);
-        return monster;
-    }
-
     static SceneObject* personCalled(const std::string& name) {
         SceneObject* found = sceneManager().getSceneObject(name);
         return found != nullptr && found->asPlayer() != nullptr ? found : nullptr;
@@ -35,7 +27,7 @@ TEST_F(OtherSide, ALittleOneStandsInItsMarkersPlaceCriesOnceRunsAndDiesOfBites) 
     ASSERT_NE(person, nullptr);
     EXPECT_FALSE(person->asPlayer()->isSpeaking());
 
-    EvilPlayer* monster = addMonster(-150, 21);
+    EvilPlayer* monster = addMonster(-150, 21, EvilState::puppet);
     const float before = originOf(*person).x();
     step(8);
     EXPECT_EQ(personCalled("ZBIEG1"), person);
@@ -57,10 +49,10 @@ TEST_F(OtherSide, EachMonsterBeforeTheGateLiftsItAtEachBlowAndNobodyElseDoes) {
         addNamed("WROTADEST", 500, 100);
         addNamed("WROTAUP", 0, 300);
         for (int i = 0; i < monsters; ++i) {
-            addMonster(460.0F + 40.0F * static_cast<float>(i), 90)
+            addMonster(460.0F + 40.0F * static_cast<float>(i), 90, EvilState::puppet)
                 ->physicsObject->body->setLinearFactor({0, 0, 0});
         }
-        addMonster(700, 90)->physicsObject->body->setLinearFactor({0, 0, 0});
+        addMonster(700, 90, EvilState::puppet)->physicsObject->body->setLinearFactor({0, 0, 0});
         const float before = originOf(*gate).y();
         step(50);
         EXPECT_NEAR(originOf(*gate).y() - before, lift, 0.01F) << monsters;

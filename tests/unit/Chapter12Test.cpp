@@ -1,16 +1,13 @@
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "game/commands/Monsters.h"
 #include "game/flow/ChapterFlow.h"
 #include "graphicsModule/LightAdd.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
-
-#include <algorithm>
 
 // What a walkthrough of the altar does not tell.
 
@@ -26,16 +23,8 @@ protected:
         sceneManager().addSceneObject(sceneManager().player);
     }
 
-    static std::vector<SceneObject*> monsters() {
-        std::vector<SceneObject*> found;
-        const auto& objects = sceneManager().objects;
-        std::copy_if(objects.begin(), objects.end(), std::back_inserter(found),
-                     [](SceneObject* object) { return EvilPlayer::of(object) != nullptr; });
-        return found;
-    }
-
     void killAll() {
-        for (SceneObject* monster : monsters()) {
+        for (EvilPlayer* monster : monsters()) {
             sceneManager().markForRemoval(monster);
         }
         step();

@@ -1,17 +1,15 @@
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "game/commands/Monsters.h"
 #include "game/commands/NamedObjects.h"
 #include "game/flow/ChapterFlow.h"
 #include "graphicsModule/GraphicsModule.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/Equipment.h"
-#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/Hands.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
-#include "sceneManager/TestPlayer.h"
 
 #include <algorithm>
 
@@ -37,20 +35,6 @@ protected:
         ghost.addAddition(parseScript("CH13BATTLE"));
         sceneManager().addSceneObject(&ghost);
         return &ghost;
-    }
-
-    static TestPlayer* addProtagonist(float x, float y) {
-        auto* player = new TestPlayer;
-        putAt(*player, {x, y, 0});
-        sceneManager().addSceneObject(player);
-        sceneManager().player = player;
-        return player;
-    }
-
-    static long countMonsters() {
-        const auto& objects = sceneManager().objects;
-        return std::count_if(objects.begin(), objects.end(),
-                             [](SceneObject* object) { return EvilPlayer::of(object) != nullptr; });
     }
 };
 
@@ -100,13 +84,13 @@ TEST_F(Ghost, ThatAnnoysIsGoneWhenItIsSeizedAndDragsNobodyAlong) {
 TEST_F(Ghost, LetsMonstersOutNowAndThenAndTauntsTheDead) {
     Player* ghost = addFighter(0, 300);
     addProtagonist(5000, 300);
-    long most = 0;
+    std::size_t most = 0;
     int times = 0;
     for (int i = 0; i < 24 * 250; ++i) {
-        const long before = countMonsters();
+        const std::size_t before = monsters().size();
         step();
-        most = std::max(most, countMonsters() - before);
-        times += countMonsters() > before ? 1 : 0;
+        most = std::max(most, std::max(monsters().size(), before) - before);
+        times += monsters().size() > before ? 1 : 0;
     }
     EXPECT_GT(times, 12);
     EXPECT_LT(times, 24) << "sometimes it lets none out";

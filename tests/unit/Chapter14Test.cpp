@@ -1,7 +1,6 @@
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
-#include "sceneManager/TestPlayer.h"
+#include "People.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,13 +11,6 @@ namespace {
 
 class Daylight : public EngineFixture {
 protected:
-    static TestPlayer* addProtagonist() {
-        auto* player = new TestPlayer;
-        sceneManager().addSceneObject(player);
-        sceneManager().player = player;
-        return player;
-    }
-
     /// Steps in which the protagonist hangs at the place and looks to the side.
     void look(TestPlayer& player, const btVector3& place, float dx, int steps) {
         for (int i = 0; i < steps; ++i) {
@@ -35,7 +27,7 @@ TEST_F(Daylight, FollowersComeCloserBehindTheBackAsFarAsTheirMannersAndTheirRoom
         addNamed("DZIWR", roomEnds, 200);
         const SceneObject* first = addNamed("DZIWA", -300, 300, 40, "CH14DZIW1");
         const SceneObject* second = addNamed("DZIWB", -400, 300, 40, "CH14DZIW1");
-        TestPlayer* player = addProtagonist();
+        TestPlayer* player = addProtagonist(0, 0);
 
         look(*player, {0, 300, 0}, -100, 20);
         EXPECT_FLOAT_EQ(originOf(*first).x(), -300) << "looked at";
@@ -52,7 +44,7 @@ TEST_F(Daylight, TheGateHeedsOnlyWhoIsLookedAtOnTheMark) {
     addNamed("KLAPADEST", 500, 100);
     const SceneObject* gate = addNamed("KLAPA", 500, 0, 40, "CH14DZIW3");
     SceneObject* thing = addNamed("DZIWC", 30, 300);
-    TestPlayer* player = addProtagonist();
+    TestPlayer* player = addProtagonist(0, 0);
 
     look(*player, {300, 300, 0}, 100, 20);
     EXPECT_FLOAT_EQ(originOf(*gate).y(), 0) << "behind the back";

@@ -1,8 +1,6 @@
-#include "sceneManager/EvilPlayer.h"
-
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "Random.h"
 #include "Records.h"
 #include "graphicsModule/Camera.h"
@@ -10,7 +8,6 @@
 #include "graphicsModule/LightReaderAdd.h"
 #include "inputModule/InputModule.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/TestPlayer.h"
 #include "soundModule/SoundManager.h"
 
 #include <cmath>
@@ -37,18 +34,10 @@ protected:
         step(); // away from step 0, which would be a look
     }
 
-    static EvilPlayer* addMonster(float x, float y = standing) {
-        auto* monster = new EvilPlayer;
-        put(*monster, x, y);
-        sceneManager().addSceneObject(monster);
-        return monster;
-    }
+    static EvilPlayer* addMonster(float x) { return ::addMonster(x, standing); }
     static TestPlayer* addPrey(float x) {
-        auto* prey = new TestPlayer;
+        TestPlayer* prey = addProtagonist(x, 15.0F);
         prey->clearAdditions(); // no fear of its own
-        put(*prey, x, 15.0F);
-        sceneManager().addSceneObject(prey);
-        sceneManager().player = prey;
         return prey;
     }
     /// Up to and with the next step in which monsters look around.

@@ -1,9 +1,8 @@
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "game/flow/ChapterFlow.h"
 #include "physicsModule/PhysicsModule.h"
-#include "sceneManager/EvilPlayer.h"
 #include "sceneManager/So_Addons/CallbackAdd.h"
 
 // What the walkthroughs of the second and third chapter don't come by.
@@ -81,11 +80,8 @@ TEST_F(GateAndShaft, TheWayOutOpensOnlyWhenNoneIsLeftInsideTheGate) {
     addNamed("WYJSCIED", 0, 100);
     SceneObject* pane = addNamed("OKNO", 0, 300);
     addPlayer(700, 0);
-    for (const float x : {-600.0F, 100.0F}) {
-        auto* monster = new EvilPlayer;
-        put(*monster, x, -300);
-        sceneManager().addSceneObject(monster);
-    }
+    addMonster(-600, -300);
+    addMonster(100, -300);
     pane->addAddition(parseScript("CH3LSPAWNS"));
     step(10);
     EXPECT_FALSE(gateMoves(*door));

@@ -2,7 +2,7 @@
 
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "TextStream.h"
 #include "graphicsModule/Camera.h"
 #include "physicsModule/CollisionRules.h"
@@ -12,7 +12,6 @@
 #include "sceneManager/EvilHands.h"
 #include "sceneManager/HandsPause.h"
 #include "sceneManager/MapFile.h"
-#include "sceneManager/TestPlayer.h"
 #include "soundModule/SoundManager.h"
 
 #include <BulletCollision/CollisionDispatch/btCollisionDispatcher.h>
@@ -38,11 +37,8 @@ protected:
     void SetUp() override {
         EngineFixture::SetUp();
         floor = addBox(0.0F, -50.0F, 5000.0F, 50.0F, 0.0F);
-        player = new TestPlayer;
+        player = addProtagonist(0.0F, 15.0F);
         player->clearAdditions(); // no heart
-        originOfBody(*player) = btVector3(0.0F, 15.0F, 0.0F);
-        sceneManager().addSceneObject(player);
-        sceneManager().player = player;
         step(25);
     }
 
@@ -348,9 +344,7 @@ TEST_F(HandsTest, TheCharacterMayGoWithItsHandsFull) {
     EXPECT_EQ(joints(), 0U);
     step(2);
 
-    player = new TestPlayer;
-    sceneManager().addSceneObject(player);
-    sceneManager().player = player;
+    player = addProtagonist(500.0F, 500.0F);
     hold(2.0F);
     player->hurt(1000);
     step(2);

@@ -101,13 +101,13 @@ TEST_F(InputDispatchTest, TheHighestFrameTakesTheEventAndClicksAndWheelRaiseAFra
     EXPECT_EQ(inputModule().getFrames(), (std::vector{a, b})) << "a move raises nothing";
     log.clear();
     inputModule().wheelEvent(-1);
-    EXPECT_EQ(log, "b9:8 ");
+    EXPECT_EQ(log, "blost b9:8 ");
     ticks();
     EXPECT_EQ(inputModule().getFrames(), (std::vector{b, a}));
     log.clear();
     inputModule().wheelEvent(0);
     inputModule().wheelEvent(0); // no turn, no event
-    EXPECT_EQ(log, "b9:9 ");
+    EXPECT_EQ(log, "blost b9:9 ");
 }
 
 TEST_F(InputDispatchTest, WhoGotThePressGetsTheReleaseToo) {

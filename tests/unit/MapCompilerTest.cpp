@@ -127,7 +127,9 @@ TEST_F(MapCompilerTest, PropertiesGiveABodyItsBehaviour) {
     for (const So_Addition* addition : bundle.objects[0]->additions) {
         addition->save(stream);
     }
-    EXPECT_EQ("2 5 1 7 2.5 15 -0.5 0 2 1 0 5 qq120 180 14 What was that? 60 ", stream.text());
+    EXPECT_EQ("4 0 1 1 9 0 1 24 2 0 5 0 1 3 5 KNOWN 0 " // a chain a line
+              "2 5 1 7 2.5 15 -0.5 0 2 1 0 5 qq120 180 14 What was that? 60 ",
+              stream.text());
 }
 
 TEST_F(MapCompilerTest, LightsStandByThemselvesOrHangOnBodies) {

@@ -2,7 +2,7 @@
 
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "Records.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/LightReaderAdd.h"
@@ -35,10 +35,7 @@ protected:
     void SetUp() override {
         EngineFixture::SetUp();
         addBox(0.0F, -50.0F, 5000.0F, 50.0F, 0.0F);
-        player = new TestPlayer;
-        put(*player, 0.0F, 15.0F);
-        sceneManager().addSceneObject(player);
-        sceneManager().player = player;
+        player = addProtagonist(0.0F, 15.0F);
         step(41);
         heard();
     }

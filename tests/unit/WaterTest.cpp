@@ -1,13 +1,12 @@
 #include "support/EngineFixture.h"
 
-#include "PhysicsBodies.h"
+#include "People.h"
 #include "TextStream.h"
 #include "graphicsModule/Camera.h"
 #include "graphicsModule/WaterGraphics.h"
 #include "physicsModule/PhysicsModule.h"
 #include "sceneManager/MapFile.h"
 #include "sceneManager/So_Addons/WaterAddition.h"
-#include "sceneManager/TestPlayer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -92,10 +91,8 @@ protected:
     void SetUp() override {
         WaterTest::SetUp();
         water = addWater<WaterGraphics>();
-        player = new TestPlayer;
+        player = addProtagonist(0.0F, 100.0F);
         player->clearAdditions(); // no heartbeat
-        sceneManager().addSceneObject(player);
-        sceneManager().player = player;
         stay(100.0F, 2);
         heard();
     }
