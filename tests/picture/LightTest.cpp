@@ -59,13 +59,10 @@ protected:
     }
 
     TransformGraphicsObject* addBlocker(float x, float y, const std::vector<float>& vertices) {
-        GraphicsObjectData data;
+        GraphicsObjectData data = makeBoxData(1, 1, -1, 0.0F, 1.0F, 0, 1, 1, 1, 1);
         data.vertices = vertices;
         data.texcoords.assign(vertices.size(), 0.0F);
         data.colours.assign(vertices.size() * 2, 1.0F);
-        data.texture = -1;
-        data.parallax = 1.0F;
-        data.z = 0.0F;
         auto* blocker = new TransformGraphicsObject(x, y, data);
         graphicsModule().addObject(blocker);
         return blocker;

@@ -172,33 +172,21 @@ TEST_F(EvilPlayerTest, PreyThatGoesIsForgottenWithoutBeingAskedAnything) {
     EXPECT_EQ(monster->target, nullptr);
 }
 
-TEST_F(EvilPlayerTest, WalksItsWaypointsInARing) {
+TEST_F(EvilPlayerTest, WalksItsWaypointsInARingWhichGoesWhereItIsPut) {
     EvilPlayer* monster = addMonster(0.0F);
     monster->statistics.speed = 400.0F;
     monster->waypoints = {{100.0F, 5.0F}, {-100.0F, 5.0F}};
-    float least = 0.0F;
-    float most = 0.0F;
+    monster->moveBy(1000.0F, 0.0F);
     int turns = 0;
     std::uint32_t way = 0;
     for (int i = 0; i < 300; ++i) {
         step();
-        least = std::min(least, originOf(*monster).x());
-        most = std::max(most, originOf(*monster).x());
         turns += legs(*monster) != way ? 1 : 0;
         way = legs(*monster);
         EXPECT_EQ(monster->keys & playerKey::up, 0U) << "nothing to jump for";
+        EXPECT_NEAR(originOf(*monster).x(), 1000.0F, 115.0F);
     }
-    EXPECT_NEAR(most, 100.0F, 15.0F);
-    EXPECT_NEAR(least, -100.0F, 15.0F);
     EXPECT_GE(turns, 5);
-
-    const float before = originOf(*monster).x();
-    monster->moveBy(1000.0F, 0.0F);
-    EXPECT_EQ(originOf(*monster).x(), before + 1000.0F);
-    EXPECT_EQ(monster->waypoints[0].x, 1100.0F);
-    EXPECT_EQ(monster->waypoints[1].x, 900.0F);
-    step(200);
-    EXPECT_NEAR(originOf(*monster).x(), 1000.0F, 120.0F) << "its ring went with it";
 
     // A ring may be cut short at any time; the one place left is where it stands then.
     const float here = originOf(*monster).x();
