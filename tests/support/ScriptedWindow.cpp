@@ -34,15 +34,6 @@ void ScriptedWindow::moveMouse(int x, int y) {
     });
 }
 
-void ScriptedWindow::turnWheel(int clicks) {
-    pending.push_back([this, clicks] {
-        wheelPosition += clicks;
-        if (events.wheel) {
-            events.wheel(wheelPosition);
-        }
-    });
-}
-
 void ScriptedWindow::resize(int newWidth, int newHeight) {
     pending.push_back([this, newWidth, newHeight] {
         windowWidth = newWidth;
@@ -88,15 +79,14 @@ void ScriptedWindow::sendSize(int reportedWidth, int reportedHeight) {
 }
 
 bool ScriptedWindow::open(const platform::WindowRequest& wanted) {
-    request = wanted;
     windowWidth = wanted.width;
     windowHeight = wanted.height;
-    opened = canOpen && (!inner || inner->open(wanted));
+    opened = !inner || inner->open(wanted);
     return opened;
 }
 
 std::string ScriptedWindow::failure() {
-    return inner ? inner->failure() : "told not to open";
+    return inner ? inner->failure() : "";
 }
 
 void ScriptedWindow::terminate() {
@@ -111,16 +101,8 @@ bool ScriptedWindow::isOpen() {
 }
 
 void ScriptedWindow::setTitle(const char* text) {
-    title = text;
     if (inner) {
         inner->setTitle(text);
-    }
-}
-
-void ScriptedWindow::setSwapInterval(int interval) {
-    swapInterval = interval;
-    if (inner) {
-        inner->setSwapInterval(interval);
     }
 }
 
@@ -136,10 +118,6 @@ void ScriptedWindow::setSize(int newWidth, int newHeight) {
 
 void ScriptedWindow::minimise() {
     pending.push_back([this] { sendSize(0, 0); });
-}
-
-void ScriptedWindow::hideCursor() {
-    cursorHidden = true;
 }
 
 void ScriptedWindow::swapBuffers() {

@@ -20,7 +20,6 @@ public:
     void pressMouse(int button);
     void releaseMouse(int button);
     void moveMouse(int x, int y); ///< Pixels from the upper left corner.
-    void turnWheel(int clicks);   ///< Positive is up.
     void resize(int newWidth, int newHeight);
     void close();
 
@@ -28,18 +27,13 @@ public:
 
     // What the window finds on its machine.
     std::vector<platform::VideoMode> modes{{640, 480, 8, 8, 8}, {1280, 800, 8, 8, 8}};
-    bool canOpen = true;
     bool joystickPresent = false;
     std::array<float, platform::joystickAxisCount> joystickAxes{};
     std::array<std::uint8_t, platform::joystickButtonCount> joystickButtons{};
 
     // What the program has asked for.
-    platform::WindowRequest request{};
-    std::string title;
-    int swapInterval = 0;
     int swaps = 0;
     int resizes = 0; ///< Calls of `setSize`.
-    bool cursorHidden = false;
 
     std::vector<platform::VideoMode> videoModes() override { return modes; }
     bool open(const platform::WindowRequest& wanted) override;
@@ -47,11 +41,11 @@ public:
     void terminate() override;
     bool isOpen() override;
     void setTitle(const char* text) override;
-    void setSwapInterval(int interval) override;
+    void setSwapInterval(int) override {}
     void getSize(int& width, int& height) override;
     void setSize(int newWidth, int newHeight) override;
     void minimise() override;
-    void hideCursor() override;
+    void hideCursor() override {}
     void swapBuffers() override;
     double time() override { return clock; }
     void setEvents(platform::WindowEvents newEvents) override;
@@ -78,7 +72,6 @@ private:
     int windowHeight = 800;
     int mouseX = 640;
     int mouseY = 400;
-    int wheelPosition = 0;
     std::set<int> keysDown;
     std::set<int> buttonsDown;
     std::set<int> unseenPresses; // of mouse buttons; sticky until asked for

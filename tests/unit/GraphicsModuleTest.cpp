@@ -74,7 +74,7 @@ TEST_F(GraphicsModuleTest, ThePictureFitsIntoAWindowOfAnyShape) {
         window->resize(row.width, row.height);
         window->pollEvents();
         graphicsModule().setViewport();
-        EXPECT_EQ(device->state.viewport, row.viewport) << row.width << " by " << row.height;
+        EXPECT_EQ(device->viewport, row.viewport) << row.width << " by " << row.height;
         EXPECT_EQ(letterboxX, row.viewport[0]);
         EXPECT_EQ(letterboxY, row.viewport[1]);
         EXPECT_EQ(windowWidth, row.width);

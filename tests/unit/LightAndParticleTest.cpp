@@ -50,7 +50,7 @@ protected:
     std::vector<PaintVertex> verticesOf(ParticleEmiter& emitter) {
         graphicsModule().update();
         device->forget();
-        device->keepsDraws = device->keepsVertices = true;
+        device->keepsDraws = true;
         emitter.draw();
         painter().flush();
         return device->draws.empty() ? std::vector<PaintVertex>() : device->draws[0].vertices;

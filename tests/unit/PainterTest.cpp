@@ -12,7 +12,6 @@ protected:
         auto recorder = std::make_unique<RecordingDevice>();
         device = recorder.get();
         device->keepsDraws = true;
-        device->keepsVertices = true;
         painter = std::make_unique<Painter>(std::move(recorder));
     }
 
@@ -83,7 +82,7 @@ TEST_F(PainterTest, AStateChangeEndsTheRunAndARepeatedOneCostsNothing) {
         EXPECT_EQ(device->drawCount, 1);
         EXPECT_EQ(device->stateChangeCount, 1);
     }
-    EXPECT_EQ(device->state.scissor, (std::array{1, 2, 3, 0}));
+    EXPECT_EQ(device->scissor, (std::array{1, 2, 3, 0}));
 
     painter->polygon(square());
     painter->setUp(1280.0F, 800.0F); // a new context knows nothing of what was set
@@ -102,7 +101,7 @@ TEST_F(PainterTest, WhatWasCollectedReachesTheDeviceBeforeItIsUsedDirectly) {
     painter->polygon(square());
     painter->bindTexture(3);
     EXPECT_EQ(device->drawCount, 3);
-    EXPECT_EQ(device->draws.back().state.texture, -1);
+    EXPECT_EQ(device->draws.back().texture, -1);
 }
 
 TEST_F(PainterTest, EveryShapeHasTheIndicesOfItsKind) {
