@@ -178,12 +178,13 @@ void printAndPack(benchmark::State& state) {
 }
 
 std::string largestMap() {
-    const std::filesystem::directory_iterator maps(dataPrefix + "maps");
-    return std::max_element(
-               begin(maps), end(maps),
-               [](const auto& a, const auto& b) { return a.file_size() < b.file_size(); })
-        ->path()
-        .string();
+    std::filesystem::directory_entry largest;
+    for (const auto& map : std::filesystem::directory_iterator(dataPrefix + "maps")) {
+        if (largest.path().empty() || map.file_size() > largest.file_size()) {
+            largest = map;
+        }
+    }
+    return largest.path().string();
 }
 
 void loadLargestMap(benchmark::State& state) {

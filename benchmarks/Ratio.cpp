@@ -7,6 +7,7 @@
 namespace {
 
 constexpr std::size_t rounds = 5;
+constexpr int callsInTurn = 10;
 
 /// Processor time of all threads: what else the machine does counts on neither side.
 double secondsOf(int calls, const std::function<void()>& work) {
@@ -17,15 +18,22 @@ double secondsOf(int calls, const std::function<void()>& work) {
     return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-/// Runs the rounds and reports their medians. `time` gives the seconds that `calls` of ours took.
+/// What the calls of a round took.
+struct Seconds {
+    double ours = 0.0;
+    double bare = 0.0;
+};
+
+/// Runs the rounds and reports their medians.
 void runRounds(benchmark::State& state, int calls, double limit,
-               const std::function<double()>& time, const std::function<void()>& bare) {
+               const std::function<Seconds()>& round) {
     std::array<double, rounds> ratios{};
     std::array<double, rounds> times{};
     for ([[maybe_unused]] auto turn : state) {
         for (std::size_t i = 0; i < rounds; ++i) {
-            times[i] = time();
-            ratios[i] = times[i] / secondsOf(calls, bare);
+            const Seconds seconds = round();
+            times[i] = seconds.ours;
+            ratios[i] = seconds.ours / seconds.bare;
         }
     }
     std::sort(ratios.begin(), ratios.end());
@@ -44,8 +52,23 @@ void compare(benchmark::State& state, int calls, double limit, const std::functi
              const std::function<void()>& bare) {
     ours();
     bare();
-    runRounds(
-        state, calls, limit, [&] { return secondsOf(calls, ours); }, bare);
+    runRounds(state, calls, limit, [&] {
+        return Seconds{secondsOf(calls, ours), secondsOf(calls, bare)};
+    });
+}
+
+void compareInTurn(benchmark::State& state, int calls, double limit,
+                   const std::function<void()>& prepare, const std::function<void()>& ours,
+                   const std::function<void()>& bare) {
+    runRounds(state, calls, limit, [&] {
+        Seconds seconds;
+        for (int i = 0; i < calls; i += callsInTurn) {
+            prepare();
+            seconds.ours += secondsOf(callsInTurn, ours);
+            seconds.bare += secondsOf(callsInTurn, bare);
+        }
+        return seconds;
+    });
 }
 
 void compareBeyond(benchmark::State& state, int calls, double limit,
@@ -56,6 +79,7 @@ void compareBeyond(benchmark::State& state, int calls, double limit,
         ours();
         return secondsOf(calls, ours);
     };
-    runRounds(
-        state, calls, limit, [&] { return with(true) - with(false); }, bare);
+    runRounds(state, calls, limit, [&] {
+        return Seconds{with(true) - with(false), secondsOf(calls, bare)};
+    });
 }

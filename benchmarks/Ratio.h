@@ -11,6 +11,12 @@
 void compare(benchmark::State& state, int calls, double limit, const std::function<void()>& ours,
              const std::function<void()>& bare);
 
+/// The same in turns of a few calls each, behind an untimed preparation: for two sides that drift
+/// apart unless they begin alike now and then.
+void compareInTurn(benchmark::State& state, int calls, double limit,
+                   const std::function<void()>& prepare, const std::function<void()>& ours,
+                   const std::function<void()>& bare);
+
 /// The same for what our work costs more with something than without it: `put` puts it there or
 /// takes it away, untimed.
 void compareBeyond(benchmark::State& state, int calls, double limit,

@@ -143,6 +143,15 @@ TextWriter& TextWriter::operator<<(std::int64_t value) {
 }
 
 TextWriter& TextWriter::operator<<(float value) {
+    // Corners of textures, white, full alpha: much of what a scene holds is a single digit.
+    if (value >= 0.0F && value < 10.0F && !std::signbit(value)) {
+        const int digit = static_cast<int>(value);
+        if (static_cast<float>(digit) == value) {
+            const char printed[] = {static_cast<char>('0' + digit), ' '};
+            buffer.append(printed, sizeof printed);
+            return *this;
+        }
+    }
     char digits[numberLength];
     const auto result =
         std::to_chars(digits, digits + numberLength - 1, value, std::chars_format::general, 6);

@@ -212,8 +212,8 @@ void unshield(SceneObject* owner, So_Addition*) {
 
 void behaveAsPrey(SceneObject* owner, So_Addition*) {
     PhysicsObject* prey = owner != nullptr ? owner->physicsObject : nullptr;
-    if (prey == nullptr) {
-        return;
+    if (prey == nullptr || sceneManager().getSceneObject("THING") == nullptr) {
+        return; // it rests until somebody is out to catch it
     }
     int left = 0;
     for (int number = 1; number <= shields; ++number) {

@@ -71,7 +71,7 @@ void appear(SceneObject& marker, So_Addition* link, int number, float speed) {
 const SceneObject* threatTo(const Player& person) {
     const SceneObject* nearest = nullptr;
     float distance = sightX;
-    for (const SceneObject* object : sceneManager().objects) {
+    for (const SceneObject* object : sceneManager().getActors()) {
         if (object->type != sceneObjectType::evilPlayer) {
             continue;
         }

@@ -92,6 +92,9 @@ ScriptCallback colourLight(const std::string& object, float r, float g, float b)
     return [=](SceneObject*, So_Addition*) {
         if (auto* light = additionOf<LightAdd>(object, AdditionType::light)) {
             LightProperties look = light->getProperties();
+            if (look.red == r && look.green == g && look.blue == b) {
+                return; // loops ask for the same again and again
+            }
             look.red = r;
             look.green = g;
             look.blue = b;

@@ -26,8 +26,28 @@ void collectContact(const btCollisionObject& body, btPersistentManifold* manifol
     }
 }
 
-/// Asks for what the scan reads of a manifold a few turns later: a thousand bodies have more
-/// manifolds than the processor's cache holds, and waiting for them was a quarter of the scan.
+// A level has more of everything than the processor's cache holds, and waiting for it was a quarter
+// of some scans: they ask for what they read a few turns later.
+constexpr std::size_t prefetchDistance = 6;
+
+void prefetch(const PhysicsObject& object) {
+    __builtin_prefetch(&object.kind);
+    __builtin_prefetch(&object.previousTransform);
+}
+void prefetch(const btRigidBody& body) {
+    __builtin_prefetch(&body.getWorldTransform());
+    __builtin_prefetch(&body.getWorldTransform().getOrigin());
+    __builtin_prefetch(&body.getInterpolationWorldTransform());
+}
+void prefetch(const SceneObject& object) {
+    __builtin_prefetch(&object);
+    __builtin_prefetch(&object.additions);
+}
+
+/// Walls and the like have none.
+bool hasWork(const SceneObject& object) {
+    return !object.additions.empty() || object.type != sceneObjectType::plain;
+}
 void prefetch(const btPersistentManifold& manifold) {
     for (const int i : {0, 1}) {
         const btManifoldPoint& point = manifold.getContactPoint(i);
@@ -58,7 +78,11 @@ void PhysicsModule::update() {
 
 /// All that is done to each object, in one pass: it is the fetching of them that costs.
 void PhysicsModule::prepareObjects() {
-    for (PhysicsObject* object : physicsObjects) {
+    const std::size_t count = physicsObjects.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        PhysicsObject* object = physicsObjects[i];
+        prefetch(*physicsObjects[std::min(i + 2 * prefetchDistance, count - 1)]);
+        prefetch(*physicsObjects[std::min(i + prefetchDistance, count - 1)]->body);
         object->previousTransform = object->body->getWorldTransform();
         object->contacts.clear();
         storeTraits(*object);
@@ -76,11 +100,10 @@ void PhysicsModule::stepWorld() {
 
 void PhysicsModule::collectContacts() {
     ImpactSounds sounds;
-    constexpr int prefetchDistance = 6;
     btPersistentManifold** manifolds = dispatcher->getInternalManifoldPointer();
     const int count = dispatcher->getNumManifolds();
     for (int i = 0; i < count; ++i) {
-        prefetch(*manifolds[std::min(i + prefetchDistance, count - 1)]);
+        prefetch(*manifolds[std::min(i + static_cast<int>(prefetchDistance), count - 1)]);
         collectContact(*manifolds[i]->getBody0(), manifolds[i]);
         collectContact(*manifolds[i]->getBody1(), manifolds[i]);
         sounds.hear(*manifolds[i]);
@@ -97,6 +120,9 @@ void PhysicsModule::updateScene() {
     const std::vector<SceneObject*>& actors = sceneManager().getActors();
     // NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t i = 0; i < actors.size(); ++i) {
-        actors[i]->update();
+        prefetch(*actors[std::min(i + prefetchDistance, actors.size() - 1)]);
+        if (hasWork(*actors[i])) {
+            actors[i]->update();
+        }
     }
 }
