@@ -48,10 +48,6 @@ constexpr float leapFrom = 1000.0F; // what is further than that, the prey reach
 constexpr float hover = 9.0F;       // units up and down
 constexpr float hoverPace = 0.045F; // radians a step
 
-btVector3 originOf(const SceneObject& object) {
-    return bodyOf(&object)->getWorldTransform().getOrigin();
-}
-
 void jump(SceneObject& object, const btVector3& place) {
     putAt(object, place);
     physicsModule().world->updateSingleAabb(object.physicsObject->body.get());
@@ -97,7 +93,7 @@ void takeOver(Player& thing) {
 
 bool isNear(const SceneObject& thing, const char* mark) {
     btVector3 place;
-    return placeOf(mark, place) && place.distance(originOf(thing)) < markReach;
+    return placeOf(mark, place) && place.distance(placeOf(thing)) < markReach;
 }
 
 void noteCheckpoint(const SceneObject& thing) {
@@ -111,7 +107,7 @@ void noteCheckpoint(const SceneObject& thing) {
 void sendBack(SceneObject& thing) {
     static constexpr std::array marks{"THINGPOS", "THINGPOS1", "THINGPOS2"};
     runScript("LOCK SOUND kick.wav REMOVESCRIPT");
-    graphicsModule().spawnSparks(originOf(thing), shieldSparks);
+    graphicsModule().spawnSparks(placeOf(thing), shieldSparks);
     btVector3 place;
     if (placeOf(marks[static_cast<std::size_t>(chapterFlags[checkpoint])], place)) {
         jump(thing, place);
@@ -176,7 +172,7 @@ void controlThing(SceneObject*, So_Addition* link) {
         return;
     }
     const btVector3 aim = thing->aimPoint;
-    thing->physicsObject->moveTowards(aim.x(), aim.y(), aim.distance(originOf(*thing)) * glide);
+    thing->physicsObject->moveTowards(aim.x(), aim.y(), aim.distance(placeOf(*thing)) * glide);
 }
 
 void setShield(SceneObject* owner, So_Addition* link) {
@@ -202,8 +198,8 @@ void unshield(SceneObject* owner, So_Addition*) {
     if (body->hasContactResponse()) {
         body->setCollisionFlags(body->getCollisionFlags() |
                                 btCollisionObject::CF_NO_CONTACT_RESPONSE);
-        graphicsModule().spawnSparks(originOf(*owner), shieldSparks);
-        zap(originOf(*owner));
+        graphicsModule().spawnSparks(placeOf(*owner), shieldSparks);
+        zap(placeOf(*owner));
     }
     if (fadeTo(*owner, 0.0F)) {
         sceneManager().markForRemoval(owner);
@@ -226,15 +222,15 @@ void behaveAsPrey(SceneObject* owner, So_Addition*) {
     }
     place += btVector3(
         0.0F, hover * std::sin(static_cast<float>(physicsModule().stepCount) * hoverPace), 0.0F);
-    if (place.distance(originOf(*owner)) > leapFrom) {
-        graphicsModule().spawnSparks(originOf(*owner), shieldSparks);
+    if (place.distance(placeOf(*owner)) > leapFrom) {
+        graphicsModule().spawnSparks(placeOf(*owner), shieldSparks);
         zap(place);
         jump(*owner, place);
     }
     prey->moveTowards(place.x(), place.y(), preyStep);
     for (int number = 1; number <= shields; ++number) {
         if (SceneObject* shield = shieldNumber(number)) {
-            jump(*shield, originOf(*owner));
+            jump(*shield, placeOf(*owner));
         }
     }
 }
@@ -245,7 +241,7 @@ void passRift(SceneObject* owner, So_Addition* link) {
     if (thing == nullptr || !placeOf("TELDEST", place)) {
         return;
     }
-    graphicsModule().spawnSparks(originOf(*thing), shieldSparks);
+    graphicsModule().spawnSparks(placeOf(*thing), shieldSparks);
     jump(*thing, place);
     graphicsModule().camera->setX(place.x());
     graphicsModule().camera->setY(place.y());

@@ -49,10 +49,6 @@ constexpr int remarks = 3;
 int& flightPoint = chapterFlags[0]; ///< 1 to 5; 0 while none is chosen.
 int& hits = chapterFlags[1];
 
-const btVector3& placeOf(const SceneObject& object) {
-    return object.physicsObject->body->getWorldTransform().getOrigin();
-}
-
 float drawChannel() {
     return static_cast<float>(drawRandom() % 100) / 100.0F;
 }
@@ -86,7 +82,7 @@ void flyOn(SceneObject& ghost) {
         flightPoint = drawRandom() % points + 1;
     }
     btVector3 goal;
-    if (!::placeOf("B" + std::to_string(flightPoint), goal) ||
+    if (!placeOf("B" + std::to_string(flightPoint), goal) ||
         ghost.physicsObject->moveTowards(goal.x(), goal.y(), flightStep)) {
         flightPoint = 0;
     }
@@ -168,7 +164,7 @@ void challenge(SceneObject* owner, So_Addition* link) {
 void beginBattle(SceneObject* owner, So_Addition* link) {
     Player* ghost = owner != nullptr ? owner->asPlayer() : nullptr;
     btVector3 goal;
-    if (ghost == nullptr || !::placeOf("B1", goal)) {
+    if (ghost == nullptr || !placeOf("B1", goal)) {
         endLoop(owner, link);
         return;
     }

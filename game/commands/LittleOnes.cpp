@@ -44,10 +44,6 @@ constexpr float strideReach = 2.5F;
 constexpr float strideLift = 3.0F;
 constexpr float breathPace = 11.0F;
 
-const btVector3& placeOf(const SceneObject& object) {
-    return object.physicsObject->body->getWorldTransform().getOrigin();
-}
-
 std::string calmName(int number) {
     return "OSOBA" + std::to_string(number);
 }

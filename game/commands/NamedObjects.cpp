@@ -29,6 +29,10 @@ bool placeOf(const std::string& object, btVector3& place) {
     return physics != nullptr;
 }
 
+const btVector3& placeOf(const SceneObject& object) {
+    return object.physicsObject->body->getWorldTransform().getOrigin();
+}
+
 void putAt(SceneObject& object, const btVector3& place) {
     PhysicsObject& physics = *object.physicsObject;
     physics.body->getWorldTransform().setOrigin(place);

@@ -13,6 +13,8 @@ class btVector3;
 PhysicsObject* physicsOf(const std::string& object);
 /// The place of the named object. False, and no change, if it is missing or has no body.
 bool placeOf(const std::string& object, btVector3& place);
+/// The same for an object that has a body.
+const btVector3& placeOf(const SceneObject& object);
 /// Puts the body of an object there, both as it stands in the world and as it is drawn.
 void putAt(SceneObject& object, const btVector3& place);
 
