@@ -11,7 +11,6 @@
 #include "physicsModule/CollisionRules.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
-#include "physicsModule/btFixedWorld.h"
 #include "sceneManager/Player.h"
 #include "sceneManager/SceneManager.h"
 #include "sceneManager/SceneObjectDescription.h"
@@ -47,11 +46,6 @@ constexpr float preyStep = 3.0F;    // units a step
 constexpr float leapFrom = 1000.0F; // what is further than that, the prey reaches at once
 constexpr float hover = 9.0F;       // units up and down
 constexpr float hoverPace = 0.045F; // radians a step
-
-void jump(SceneObject& object, const btVector3& place) {
-    putAt(object, place);
-    physicsModule().world->updateSingleAabb(object.physicsObject->body.get());
-}
 
 ParticleParams thingGlow() {
     ParticleParams glow;
@@ -110,7 +104,7 @@ void sendBack(SceneObject& thing) {
     graphicsModule().spawnSparks(placeOf(thing), shieldSparks);
     btVector3 place;
     if (placeOf(marks[static_cast<std::size_t>(chapterFlags[checkpoint])], place)) {
-        jump(thing, place);
+        putAt(thing, place);
         graphicsModule().camera->setX(place.x());
         graphicsModule().camera->setY(place.y());
     }
@@ -225,12 +219,12 @@ void behaveAsPrey(SceneObject* owner, So_Addition*) {
     if (place.distance(placeOf(*owner)) > leapFrom) {
         graphicsModule().spawnSparks(placeOf(*owner), shieldSparks);
         zap(place);
-        jump(*owner, place);
+        putAt(*owner, place);
     }
     prey->moveTowards(place.x(), place.y(), preyStep);
     for (int number = 1; number <= shields; ++number) {
         if (SceneObject* shield = shieldNumber(number)) {
-            jump(*shield, placeOf(*owner));
+            putAt(*shield, placeOf(*owner));
         }
     }
 }
@@ -242,7 +236,7 @@ void passRift(SceneObject* owner, So_Addition* link) {
         return;
     }
     graphicsModule().spawnSparks(placeOf(*thing), shieldSparks);
-    jump(*thing, place);
+    putAt(*thing, place);
     graphicsModule().camera->setX(place.x());
     graphicsModule().camera->setY(place.y());
     zap(place);

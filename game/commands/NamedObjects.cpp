@@ -36,8 +36,7 @@ const btVector3& placeOf(const SceneObject& object) {
 void putAt(SceneObject& object, const btVector3& place) {
     PhysicsObject& physics = *object.physicsObject;
     physics.body->getWorldTransform().setOrigin(place);
-    physics.previousTransform = physics.body->getWorldTransform();
-    physics.renderTransform = physics.previousTransform;
+    physics.settle();
 }
 
 SceneObject* touchWithin(const SceneObject* object, const std::string& name) {

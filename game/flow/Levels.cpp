@@ -53,9 +53,7 @@ void followWithCamera(Player& player) {
 
 void takeControl(Player& player) {
     sceneManager().player = &player;
-    PhysicsObject& physics = *player.physicsObject;
-    physics.previousTransform = physics.body->getWorldTransform();
-    physics.renderTransform = physics.previousTransform;
+    player.physicsObject->settle();
     followWithCamera(player);
     PlayerStatistics statistics = player.statistics;
     statistics.health = fullHealth;

@@ -52,21 +52,6 @@ bool isSeen(const Particle& particle, const Bounds& view) {
     return std::isfinite(r) && Bounds{x - r, y - r, x + r, y + r}.overlaps(view);
 }
 
-/// A step of flight and of turning. Rounding would make the turn grow or shrink in time: its length
-/// is brought back to 1 by the first term of the inverse root's series.
-void fly(Particle& particle, Particle::Vector gravity, float dt) {
-    auto& [turn, origin] = particle.transform;
-    particle.velocity.x += gravity.x;
-    particle.velocity.y += gravity.y;
-    origin.x += particle.velocity.x * dt;
-    origin.y += particle.velocity.y * dt;
-    const Yaw by = particle.tickTurn;
-    const Yaw turned{turn.cosine * by.cosine - turn.sine * by.sine,
-                     turn.sine * by.cosine + turn.cosine * by.sine};
-    const float mend = 1.5F - 0.5F * (turned.cosine * turned.cosine + turned.sine * turned.sine);
-    turn = {turned.cosine * mend, turned.sine * mend};
-}
-
 void paintParticle(const Particle& particle) {
     const auto& [turn, p] = particle.transform;
     const float s = particle.size;
@@ -134,29 +119,11 @@ void ParticleEmiter::update(SceneObject* owner) {
 }
 
 void ParticleEmiter::updateParticles() {
-    const auto dt = static_cast<float>(physicsModule().period);
-    const Particle::Vector gravity{params.gravityX, params.gravityY};
-    const float fade = params.fade;
-    const std::array<float, 4> fading = colourStep;
-    // The living close up over the dead in the same pass that moves them: it is the fetching of
-    // them that costs.
-    Particle* end = particles.data();
-    for (const Particle& particle : particles) {
-        if (!(particle.life > 0.0F)) {
-            continue;
-        }
-        Particle& now = *end++;
-        now = particle;
-        fly(now, gravity, dt);
-        if (fade > now.life) {
-            for (std::size_t i = 0; i < fading.size(); ++i) {
-                now.colour[i] -= fading[i];
-            }
-            now.size -= sizeStep;
-        }
-        now.life -= 1.0F;
-    }
-    particles.resize(static_cast<std::size_t>(end - particles.data()));
+    particles.tick({static_cast<float>(physicsModule().period),
+                    {params.gravityX, params.gravityY},
+                    params.fade,
+                    colourStep,
+                    sizeStep});
 }
 
 // The order of the random draws in the next three is part of what a replayed run relies on.
@@ -204,12 +171,12 @@ void ParticleEmiter::addParticle(const btVector3& position, const btVector3& vel
     }
     const auto dt = static_cast<float>(physicsModule().period);
     const float turn = std::clamp(angularSpeed * dt, -mostTurn, mostTurn);
-    particles.push_back({{{1.0F, 0.0F}, {position.x(), position.y()}},
-                         {velocity.x(), velocity.y()},
-                         {std::cos(turn), std::sin(turn)},
-                         params.life,
-                         params.size,
-                         params.colour});
+    particles.add({{{1.0F, 0.0F}, {position.x(), position.y()}},
+                   {velocity.x(), velocity.y()},
+                   {std::cos(turn), std::sin(turn)},
+                   params.life,
+                   params.size,
+                   params.colour});
 }
 
 void ParticleEmiter::draw() {
@@ -225,7 +192,8 @@ void ParticleEmiter::draw() {
         paint.setBlend(BlendMode::add);
     }
     textureStore().bind(params.texture);
-    for (const Particle& particle : particles) {
+    for (std::size_t i = 0; i < particles.size(); ++i) {
+        const Particle particle = particles[i];
         if (isSeen(particle, module.getView())) {
             paintParticle(particle);
         }

@@ -2,34 +2,15 @@
 
 #include "GraphicsObject.h"
 #include "ParticleParams.h"
-#include "Yaw.h"
+#include "ParticlePool.h"
 #include "sceneManager/So_Addons/So_Addition.h"
 
 #include <array>
 #include <cstddef>
 #include <vector>
 
-/// A textured, spinning square that flies, fades and dies. It stays in the plane, where a place and
-/// a turn are two numbers each.
-struct Particle {
-    struct Vector {
-        float x, y;
-    };
-    struct Transform {
-        Yaw turn;
-        Vector origin; ///< World units.
-    };
-
-    Transform transform;
-    Vector velocity; ///< World units a second.
-    Yaw tickTurn;    ///< By which it turns in a tick.
-    float life;      ///< Ticks left.
-    float size;      ///< Half the side, world units.
-    std::array<float, 4> colour;
-};
-
-/// A pool of particles. On a scene object it sprays from the object's body at a steady rate, and
-/// the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of
+/// Makes and draws particles. On a scene object it sprays from the object's body at a steady rate,
+/// and the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of
 /// `GraphicsModule` from construction to destruction without being owned there, unless it is a part
 /// of one of them. All its particles reach the device in one draw.
 class ParticleEmiter : public So_Addition, public GraphicsObject {
@@ -63,7 +44,7 @@ public:
     /// Angular speed in radians a second. Numbers that are none make no particle.
     void addParticle(const btVector3& position, const btVector3& velocity, float angularSpeed);
 
-    const std::vector<Particle>& getParticles() const { return particles; }
+    const ParticlePool& getParticles() const { return particles; }
 
     void draw() override;
     float getZ() const override { return params.z; }
@@ -81,7 +62,7 @@ private:
     float drawSpin() const;
 
     DrawnBy drawnBy;
-    std::vector<Particle> particles; // oldest first
+    ParticlePool particles;
     std::array<float, 4> colourStep{};
     float sizeStep = 0.0F;
 };

@@ -24,7 +24,7 @@ public:
     void splash(float x, float width, float force) override;
 
     const std::vector<float>& getSpeeds() const { return speeds; }
-    const std::vector<Particle>& getDroplets() const { return splashEmiter.getParticles(); }
+    const ParticlePool& getDroplets() const { return splashEmiter.getParticles(); }
     float getDisturbance() const { return disturbance; }
 
 private:

@@ -17,20 +17,6 @@ constexpr int barrier = 0x40;
 constexpr int all = 0xFFFF;
 } // namespace group
 
-int findTraits(const PhysicsObject& object) {
-    const btRigidBody& body = *object.body;
-    const SceneObject* owner = sceneObjectOf(body);
-    if (owner == nullptr) {
-        return 0;
-    }
-    const bool noise =
-        owner->contactNoise && object.kind == collisionKind::normal && body.hasContactResponse();
-    return (object.kind == collisionKind::loose ? bodyTrait::loose : 0) |
-           (object.kind == collisionKind::barrier ? bodyTrait::barrier : 0) |
-           (object.wantsContacts ? bodyTrait::wantsContacts : 0) |
-           (noise ? bodyTrait::makesNoise : 0);
-}
-
 } // namespace
 
 std::optional<CollisionFilter> collisionFilter(int kind, bool isStatic) {
@@ -56,14 +42,24 @@ PhysicsObject* physicsObjectOf(const btCollisionObject& body) {
     return object != nullptr ? object->physicsObject : nullptr;
 }
 
-void storeTraits(PhysicsObject& object) {
-    object.body->setUserIndex(findTraits(object));
+int findTraits(const btCollisionObject& body) {
+    const SceneObject* owner = sceneObjectOf(body);
+    if (owner == nullptr || owner->physicsObject == nullptr) {
+        return 0;
+    }
+    const PhysicsObject& object = *owner->physicsObject;
+    const bool noise =
+        owner->contactNoise && object.kind == collisionKind::normal && body.hasContactResponse();
+    return (object.kind == collisionKind::loose ? bodyTrait::loose : 0) |
+           (object.kind == collisionKind::barrier ? bodyTrait::barrier : 0) |
+           (object.wantsContacts ? bodyTrait::wantsContacts : 0) |
+           (noise ? bodyTrait::makesNoise : 0);
 }
 
-int traitsOf(const btCollisionObject& body) {
-    if (body.getUserIndex() >= 0) {
-        return body.getUserIndex();
+void storeTraits(btCollisionObject& body) {
+    const int before = body.getCollisionFlags();
+    const int now = (before & ~bodyTrait::all) | bodyTrait::noted | findTraits(body);
+    if (now != before) { // most never change, and need not be written back to memory
+        body.setCollisionFlags(now);
     }
-    const PhysicsObject* object = physicsObjectOf(body); // added since the step began, or foreign
-    return object != nullptr ? findTraits(*object) : 0;
 }

@@ -32,17 +32,25 @@ inline SceneObject* sceneObjectOf(const btCollisionObject& body) {
 /// The physics object of a body, null likewise.
 PhysicsObject* physicsObjectOf(const btCollisionObject& body);
 
-/// What is asked of a body for each pair that it is part of, as bits. Kept on the body, in its user
-/// index: with a thousand bodies, to follow each pair to the objects behind it would cost more than
-/// all else that we add to a step.
+/// What is asked of a body for each pair that it is part of, as bits. Kept on the body, among its
+/// collision flags, above all of Bullet's: with a thousand bodies, to follow each pair to the
+/// objects behind it, or only to fetch another line of the body, would cost more than all else that
+/// we add to a step.
 namespace bodyTrait {
-constexpr int loose = 1;
-constexpr int barrier = 2;
-constexpr int wantsContacts = 4;
-constexpr int makesNoise = 8; ///< Its collisions thud and roll.
+constexpr int loose = 1 << 16;
+constexpr int barrier = 1 << 17;
+constexpr int wantsContacts = 1 << 18;
+constexpr int makesNoise = 1 << 19; ///< Its collisions thud and roll.
+constexpr int noted = 1 << 20;      ///< The others are there to read.
+constexpr int all = loose | barrier | wantsContacts | makesNoise | noted;
 } // namespace bodyTrait
 
+/// What they are just now; none for bodies that the game did not make.
+int findTraits(const btCollisionObject& body);
 /// Notes the traits on the body, at the start of each step.
-void storeTraits(PhysicsObject& object);
-/// The traits of the step that runs; none for bodies that the game did not make.
-int traitsOf(const btCollisionObject& body);
+void storeTraits(btCollisionObject& body);
+/// Those noted, or found for a body that was added since the step began; other bits may be set too.
+inline int traitsOf(const btCollisionObject& body) {
+    const int flags = body.getCollisionFlags();
+    return (flags & bodyTrait::noted) != 0 ? flags : findTraits(body);
+}

@@ -56,6 +56,11 @@ void prefetch(const btPersistentManifold& manifold) {
     }
     __builtin_prefetch(&manifold.m_companionIdA); // beside the bodies and the count
 }
+void prefetchSpeeds(const btPersistentManifold& manifold) {
+    for (const btCollisionObject* body : {manifold.getBody0(), manifold.getBody1()}) {
+        __builtin_prefetch(&static_cast<const btRigidBody*>(body)->getLinearVelocity());
+    }
+}
 
 } // namespace
 
@@ -83,11 +88,22 @@ void PhysicsModule::prepareObjects() {
         PhysicsObject* object = physicsObjects[i];
         prefetch(*physicsObjects[std::min(i + 2 * prefetchDistance, count - 1)]);
         prefetch(*physicsObjects[std::min(i + prefetchDistance, count - 1)]->body);
-        object->previousTransform = object->body->getWorldTransform();
+        followMove(*object);
         object->contacts.clear();
-        storeTraits(*object);
+        storeTraits(*object->body);
         if (SceneObject* owner = sceneObjectOf(*object->body)) {
             ++owner->age;
+        }
+    }
+}
+
+/// Bullet looks after the bounding boxes of what is awake; the walls that commands move are not.
+void PhysicsModule::followMove(PhysicsObject& object) {
+    const btTransform& place = object.body->getWorldTransform();
+    if (!(object.previousTransform == place)) {
+        object.previousTransform = place;
+        if (!object.body->isActive()) {
+            world->updateSingleAabb(object.body.get());
         }
     }
 }
@@ -103,7 +119,8 @@ void PhysicsModule::collectContacts() {
     btPersistentManifold** manifolds = dispatcher->getInternalManifoldPointer();
     const int count = dispatcher->getNumManifolds();
     for (int i = 0; i < count; ++i) {
-        prefetch(*manifolds[std::min(i + static_cast<int>(prefetchDistance), count - 1)]);
+        prefetch(*manifolds[std::min(i + 2 * static_cast<int>(prefetchDistance), count - 1)]);
+        prefetchSpeeds(*manifolds[std::min(i + static_cast<int>(prefetchDistance), count - 1)]);
         collectContact(*manifolds[i]->getBody0(), manifolds[i]);
         collectContact(*manifolds[i]->getBody1(), manifolds[i]);
         sounds.hear(*manifolds[i]);

@@ -81,6 +81,7 @@ private:
 
     // The phases of a step, in order.
     void prepareObjects();
+    void followMove(PhysicsObject& object);
     void stepWorld();
     void collectContacts();
     void updateScene();

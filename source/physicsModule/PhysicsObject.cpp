@@ -68,7 +68,7 @@ PhysicsObject::PhysicsObject(ShapeTree tree, float x, float y, float restitution
     body->setLinearFactor(btVector3(1, 1, 0));
     body->setAngularFactor(btVector3(0, 0, 1));
     sweepWhenFast(*body, *shape);
-    renderTransform = previousTransform = body->getWorldTransform();
+    settle();
 }
 
 PhysicsObject::~PhysicsObject() = default;
@@ -87,10 +87,19 @@ bool PhysicsObject::moveTowards(float x, float y, float step) {
     } else if (distance > 0.0F) {
         origin += way * (step / distance);
     }
+    updateBox();
+    return arrives;
+}
+
+void PhysicsObject::settle() {
+    renderTransform = previousTransform = body->getWorldTransform();
+    updateBox();
+}
+
+void PhysicsObject::updateBox() {
     if (body->getBroadphaseHandle() != nullptr) {
         physicsModule().world->updateSingleAabb(body.get());
     }
-    return arrives;
 }
 
 void PhysicsObject::updateRenderTransform() {

@@ -36,6 +36,9 @@ public:
     /// nearer than `step`, and at once for a body that is not static.
     bool moveTowards(float x, float y, float step);
 
+    /// To be called when the body was put somewhere: it is drawn there at once, and not on its way.
+    void settle();
+
     /// Computes `renderTransform` for this frame by `renderMode`.
     void updateRenderTransform();
     const btTransform& getRenderTransform() const { return renderTransform; }
@@ -49,6 +52,8 @@ public:
     btTransform previousTransform;               ///< World transform before the latest step.
 
 private:
+    void updateBox();
+
     ShapeTree shape;
     std::unique_ptr<btMotionState> motionState;
 };

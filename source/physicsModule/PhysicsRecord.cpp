@@ -199,7 +199,7 @@ PhysicsObject* readPhysicsObject(TextReader& stream) {
                                                   friction, mass);
     btRigidBody& body = *object->body;
     body.setWorldTransform(readTransform(stream, farthest));
-    object->renderTransform = object->previousTransform = body.getWorldTransform();
+    object->settle();
     body.setLinearVelocity(readVector(stream, farthest));
     const int flags = body.getCollisionFlags();
     body.setCollisionFlags(stream.read<bool>() ? flags & ~btCollisionObject::CF_NO_CONTACT_RESPONSE

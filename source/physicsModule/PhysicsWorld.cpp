@@ -118,6 +118,7 @@ void PhysicsModule::createWorld() {
     world = std::make_unique<btFixedWorld>(dispatcher.get(), broadphase.get(), solver.get(),
                                            collisionConfiguration.get());
     world->getSolverInfo().m_splitImpulse = splitImpulse;
+    world->setForceUpdateAllAabbs(false); // `prepareObjects` does it where walls have moved
 }
 
 void PhysicsModule::registerAlgorithms() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string_view>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 class SceneObject;
@@ -24,6 +24,5 @@ private:
     void list(const std::vector<SceneObject*>& objects);
 
     unsigned listedChanges = 0;
-    /// Sorted by name, and then as the objects are. The names are those in the additions.
-    std::vector<std::pair<std::string_view, SceneObject*>> names;
+    std::unordered_map<std::string_view, SceneObject*> names; // in the additions' own words
 };

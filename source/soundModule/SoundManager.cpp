@@ -100,6 +100,10 @@ std::uint8_t SoundManager::distanceVolume(const btVector3& position) const {
 
 void SoundManager::play(const std::string& name, const btVector3& position, SoundOwner owner,
                         std::uint8_t volume, bool once) {
+    if (channelsTaken &&
+        std::find(channelOwner.begin(), channelOwner.end(), owner) == channelOwner.end()) {
+        return; // a landslide asks hundreds of times a step
+    }
     const SoundId sound = findSound(name);
     if (sound == SoundId::none) {
         return;

@@ -7,9 +7,9 @@
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 /// Who a tracked sound belongs to: any word that identifies the caller, compared and never
 /// followed.
@@ -73,8 +73,8 @@ private:
     void breathe();
 
     std::unique_ptr<Mixer> mixer; // never null
-    std::map<std::string, SoundId> soundsByName;
-    std::map<std::string, MusicId> musicByName;
+    std::unordered_map<std::string, SoundId> soundsByName;
+    std::unordered_map<std::string, MusicId> musicByName;
     // What was last put on each channel, and whose it is. Both mean something only while the
     // channel plays. Kept here, the owners for themselves, because sounds are asked for many times
     // a step.

@@ -48,7 +48,7 @@ constexpr std::array chapter1{
     HeardAt{"pick.wav", 7800, 7850, 50},     // the crate, in hand
     HeardAt{"anxiety5.wav", 8700, 8780, 60}, // the gong
     HeardAt{"plum#.wav", 8690, 8900, 10},    // a stone, or who comes after it, into the water
-    HeardAt{"uwater.wav", 9030, 9110, 10},   // under it
+    HeardAt{"uwater.wav", 8750, 9110, 10},   // under it
     HeardAt{"breath.wav", 9390, 9520, 50},   // and up again
     HeardAt{"pick.wav", 9800, 9880, 50},     // the liana
 

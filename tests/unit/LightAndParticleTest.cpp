@@ -115,12 +115,12 @@ TEST_F(LightAndParticleTest, AParticleLivesItsTicksAndChangesInTheLastOnes) {
     EXPECT_TRUE(emitter.getParticles().empty());
     const float turning = 6.0F; // radians a second, so that a tick has a tenth
     emitter.addParticle({0.0F, 0.0F, 0.0F}, {60.0F, 0.0F, 0.0F}, turning);
-    const Particle& particle = emitter.getParticles().at(0);
+    ASSERT_EQ(emitter.getParticles().size(), 1U);
     emitter.updateParticles();
-    EXPECT_NEAR(particle.transform.origin.x, 2.0F, 1e-4F);
-    EXPECT_FLOAT_EQ(particle.size, 4.0F) << "the test of the fade is strict";
+    EXPECT_NEAR(emitter.getParticles()[0].transform.origin.x, 2.0F, 1e-4F);
+    EXPECT_FLOAT_EQ(emitter.getParticles()[0].size, 4.0F) << "the test of the fade is strict";
     emitter.updateParticles();
-    EXPECT_FLOAT_EQ(particle.size, 3.0F);
+    EXPECT_FLOAT_EQ(emitter.getParticles()[0].size, 3.0F);
     emitter.updateParticles();
     EXPECT_TRUE(emitter.getParticles().empty());
 
@@ -137,6 +137,29 @@ TEST_F(LightAndParticleTest, AParticleLivesItsTicksAndChangesInTheLastOnes) {
     const Yaw turn = emitter.getParticles()[0].transform.turn;
     EXPECT_NEAR(std::hypot(turn.cosine, turn.sine), 1.0F, 1e-4F);
     EXPECT_NEAR(turn.cosine, 1.0F, 0.01F);
+}
+
+TEST_F(LightAndParticleTest, TheLivingStayInOrderWhoeverDiesAmongThem) {
+    ParticleEmiter emitter(shortLived(2.0F, 0.0F));
+    std::vector<float> expected;
+    for (int i = 0; i < 100; ++i) {
+        emitter.params.life = i % 3 == 1 ? 1.0F : i < 70 ? 2.0F : 3.0F;
+        const auto x = static_cast<float>(i);
+        emitter.addParticle({x, 0.0F, 0.0F}, {0.0F, 0.0F, 0.0F}, 0.0F);
+        expected.push_back(x);
+    }
+    const auto expectLeft = [&](auto isDead) {
+        emitter.updateParticles();
+        std::erase_if(expected, [&](float x) { return isDead(static_cast<int>(x)); });
+        ASSERT_EQ(emitter.getParticles().size(), expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            EXPECT_EQ(emitter.getParticles()[i].transform.origin.x, expected[i]);
+        }
+    };
+    expectLeft([](int) { return false; });
+    expectLeft([](int i) { return i % 3 == 1; }); // from among the others
+    expectLeft([](int i) { return i < 70; });     // the oldest
+    expectLeft([](int) { return true; });
 }
 
 TEST_F(LightAndParticleTest, AnEmitterSpraysAtItsRateFromWithinItsBodyAlongTheBodysUp) {
@@ -157,7 +180,8 @@ TEST_F(LightAndParticleTest, AnEmitterSpraysAtItsRateFromWithinItsBodyAlongTheBo
             emitter.update(c.owner);
             EXPECT_EQ(emitter.getParticles().size(), count);
         }
-        for (const Particle& particle : emitter.getParticles()) { // at most 3 units on its way
+        for (std::size_t i = 0; i < emitter.getParticles().size(); ++i) {
+            const Particle particle = emitter.getParticles()[i]; // at most 3 units on its way
             EXPECT_LE(std::abs(particle.transform.origin.x - 500.0F), c.halfWidth + 3.1F);
             EXPECT_LE(std::abs(particle.transform.origin.y), c.halfHeight + 3.1F);
             EXPECT_GE(c.owner == plank ? -particle.velocity.x : particle.velocity.y, 29.9F);

@@ -73,6 +73,23 @@ TEST_F(PhysicsModuleTest, TheClockAndTheAgesGoOnWhileTheWorldStands) {
     EXPECT_EQ(physicsModule().stepCount, 8U);
 }
 
+TEST_F(PhysicsModuleTest, AWallThatIsPutElsewhereIsMetThereAndNotWhereItWas) {
+    for (const bool settles : {false, true}) {
+        const SceneObject* wall = addBox(0, 0, 50, 10, 0);
+        step(4); // long enough to be taken for a wall that stays
+        wall->physicsObject->body->getWorldTransform().setOrigin(btVector3(500, 0, 0));
+        if (settles) {
+            wall->physicsObject->settle();
+        }
+        const SceneObject* before = addBox(0, 40, 10, 10, 1);
+        const SceneObject* now = addBox(500, 40, 10, 10, 1);
+        step(60);
+        EXPECT_LT(originOf(*before).y(), -100.0F);
+        EXPECT_NEAR(originOf(*now).y(), 20.0F, 1.0F);
+        sceneManager().clearScene();
+    }
+}
+
 TEST_F(PhysicsModuleTest, ObjectsRunBeforeScriptsAndBothReachWhatIsAddedMeanwhile) {
     std::string order;
     SceneObject* crate = addBox(0, 0, 10, 10, 1);

@@ -62,13 +62,13 @@ void ObscuredAdd::fade(const SceneObject& owner) {
 }
 
 bool ObscuredAdd::isEntered(const SceneObject& owner) const {
+    const SceneObject* player = sceneManager().player;
     const auto manifolds = manifoldsOf(&owner);
-    return std::any_of(manifolds.begin(), manifolds.end(), [&](const auto* manifold) {
-        const Contact contact = contactOf(&owner, *manifold);
-        const SceneManager& scene = sceneManager();
-        return scene.contains(contact.other) && contact.other->asPlayer() != nullptr &&
-               contact.other->asPlayer() == scene.player && (!once || contact.overlaps());
-    });
+    return player != nullptr &&
+           std::any_of(manifolds.begin(), manifolds.end(), [&](const auto* manifold) {
+               const Contact contact = contactOf(&owner, *manifold);
+               return contact.other == player && (!once || contact.overlaps());
+           });
 }
 
 void ObscuredAdd::unlockLink() {
