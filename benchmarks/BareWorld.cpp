@@ -3,11 +3,16 @@
 #include "physicsModule/CollisionRules.h"
 #include "physicsModule/PhysicsModule.h"
 #include "physicsModule/PhysicsObject.h"
+#include "sceneManager/SceneManager.h"
 
 static btDefaultCollisionConstructionInfo makeInfo() {
     btDefaultCollisionConstructionInfo info;
     info.m_defaultMaxPersistentManifoldPoolSize = 32768;
     return info;
+}
+
+static float distance(const btRigidBody& a, const btRigidBody& b) {
+    return (a.getWorldTransform().getOrigin() - b.getWorldTransform().getOrigin()).length();
 }
 
 BareWorld::BareWorld()
@@ -28,16 +33,16 @@ BareWorld::~BareWorld() {
     for (btTypedConstraint* joint : joints) {
         world.removeConstraint(joint);
     }
-    for (btRigidBody* body : bodies) {
-        world.removeRigidBody(body);
+    for (const Twin& twin : bodies) {
+        world.removeRigidBody(twin.copy);
     }
 }
 
-void BareWorld::add(PhysicsObject& object) {
+void BareWorld::add(PhysicsObject& object, const SceneObject* original) {
     btRigidBody& body = *object.body;
     if (const auto filter = collisionFilter(object.kind, body.isStaticObject())) {
         world.addRigidBody(&body, filter->group, filter->mask);
-        bodies.push_back(&body);
+        bodies.push_back({original, &body});
     }
 }
 
@@ -48,4 +53,21 @@ void BareWorld::add(btTypedConstraint& joint) {
 
 void BareWorld::step() {
     world.stepSimulation(1.0F / 60.0F, 0, 1.0F / 60.0F);
+}
+
+void BareWorld::follow(float tolerance) {
+    for (const auto& [original, copy] : bodies) {
+        if (!sceneManager().contains(original)) {
+            continue;
+        }
+        const btRigidBody& body = *original->physicsObject->body;
+        if (distance(*copy, body) > tolerance) {
+            copy->setWorldTransform(body.getWorldTransform());
+            copy->setInterpolationWorldTransform(body.getInterpolationWorldTransform());
+            copy->setLinearVelocity(body.getLinearVelocity());
+            copy->setAngularVelocity(body.getAngularVelocity());
+            copy->setDeactivationTime(body.getDeactivationTime());
+            copy->forceActivationState(body.getActivationState());
+        }
+    }
 }

@@ -58,12 +58,12 @@ void compare(benchmark::State& state, int calls, double limit, const std::functi
 }
 
 void compareInTurn(benchmark::State& state, int calls, double limit,
-                   const std::function<void()>& prepare, const std::function<void()>& ours,
+                   const std::function<void(int)>& prepare, const std::function<void()>& ours,
                    const std::function<void()>& bare) {
     runRounds(state, calls, limit, [&] {
         Seconds seconds;
-        for (int i = 0; i < calls; i += callsInTurn) {
-            prepare();
+        for (int turn = 0; turn < calls / callsInTurn; ++turn) {
+            prepare(turn);
             seconds.ours += secondsOf(callsInTurn, ours);
             seconds.bare += secondsOf(callsInTurn, bare);
         }

@@ -11,10 +11,11 @@
 void compare(benchmark::State& state, int calls, double limit, const std::function<void()>& ours,
              const std::function<void()>& bare);
 
-/// The same in turns of a few calls each, behind an untimed preparation: for two sides that drift
-/// apart unless they begin alike now and then.
+/// The same in turns of a few calls each, behind an untimed preparation that is given the number
+/// of the turn in its round, from 0: for two sides that drift apart unless they begin alike now and
+/// then, or that take so long that the machine changes its pace.
 void compareInTurn(benchmark::State& state, int calls, double limit,
-                   const std::function<void()>& prepare, const std::function<void()>& ours,
+                   const std::function<void(int)>& prepare, const std::function<void()>& ours,
                    const std::function<void()>& bare);
 
 /// The same for what our work costs more with something than without it: `put` puts it there or
