@@ -14,7 +14,6 @@
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <array>
-#include <cmath>
 #include <string>
 
 // Out of body: a plate that asks for more weight than anything here has, a field that gives it, and
@@ -29,7 +28,6 @@ constexpr float usualMass = 1.4F;   // of the three weights outside of it
 constexpr float enoughMass = 15.0F; // for the plate
 constexpr float liftStep = 2.0F;    // of the gate, units a step
 constexpr float fallStep = 1.5F;
-constexpr float gateRoom = 60.0F; // units to each side of the gate that must be free for it to fall
 constexpr float restSpeed = 5.0F; // units a second that still are rest
 constexpr float ghostStep = 1.5F; // units a step
 
@@ -116,12 +114,11 @@ void openUnderWeight(SceneObject* owner, So_Addition*) {
 /// Stands on the plate: shuts the gate without it, but not on the protagonist.
 void shutWithoutWeight(SceneObject* owner, So_Addition*) {
     btVector3 gate;
-    const btRigidBody* player = bodyOf(sceneManager().player);
-    if (isPressed(owner) || player == nullptr || !placeOf("BRAMKAPOS", gate)) {
+    if (isPressed(owner) || !placeOf("BRAMKAPOS", gate)) {
         return;
     }
     colourLight("BU", 0.25F, 0.1F, 0.35F)(nullptr, nullptr);
-    if (std::abs(player->getWorldTransform().getOrigin().x() - gate.x()) > gateRoom) {
+    if (!isOverProtagonist(gate)) {
         moveGate("BRAMKAPOS", fallStep);
     }
 }

@@ -86,12 +86,14 @@ void shutGate(SceneObject* owner, So_Addition* link) {
     }
 }
 
-/// Stands on the gate, which falls to WROTADEST; then it can be beaten on.
+/// Stands on the gate, which falls to WROTADEST, but not on the protagonist; then it can be beaten
+/// on.
 void dropGate(SceneObject* owner, So_Addition* link) {
     btVector3 shut;
     if (bodyOf(owner) == nullptr || !placeOf("WROTADEST", shut)) {
         endLoop(owner, link);
-    } else if (owner->physicsObject->moveTowards(shut.x(), shut.y(), shutStep)) {
+    } else if (!isOverProtagonist(shut) &&
+               owner->physicsObject->moveTowards(shut.x(), shut.y(), shutStep)) {
         endLoop(owner, link);
         owner->addAddition(parseScript("CH10WROTA2"));
         dustAt("WROTA", 0.0F, -70.0F, stoneDust, "close.wav")(owner, link);

@@ -40,7 +40,6 @@ constexpr float eyeDepth = 34.0F;   // units from the top of a thing down to its
 constexpr float gazeShare = 0.7F;   // cosine of the widest angle between a look and what it meets
 constexpr float gazeReach = 330.0F; // units from which the shy one feels a look
 constexpr float markReach = 45.0F;  // units to each side of the mark
-constexpr float gateRoom = 60.0F; // units to each side of the gate that must be free for it to fall
 
 constexpr float halfLit = 0.5F; // green of the lamp of the mark between dim and lit
 constexpr float dayAmbient = 0.5F;
@@ -159,10 +158,7 @@ void heedMark(SceneObject* owner, So_Addition*) {
     if (showOnMark(taken)) {
         soundManager().playAt(taken ? "switch.wav" : "switchoff.wav", mark);
     }
-    const btRigidBody* player = bodyOf(sceneManager().player);
-    const bool blocked = player != nullptr && std::abs(player->getWorldTransform().getOrigin().x() -
-                                                       shut.x()) < gateRoom;
-    if (taken || !blocked) {
+    if (taken || !isOverProtagonist(shut)) {
         const btVector3& goal = taken ? open : shut;
         owner->physicsObject->moveTowards(goal.x(), goal.y(), gateStep);
     }

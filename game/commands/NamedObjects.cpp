@@ -15,6 +15,7 @@
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <algorithm>
+#include <cmath>
 
 PhysicsObject* physicsOf(const std::string& object) {
     const SceneObject* found = sceneManager().getSceneObject(object);
@@ -31,6 +32,12 @@ bool placeOf(const std::string& object, btVector3& place) {
 
 const btVector3& placeOf(const SceneObject& object) {
     return object.physicsObject->body->getWorldTransform().getOrigin();
+}
+
+bool isOverProtagonist(const btVector3& place) {
+    constexpr float room = 60.0F; // units to each side
+    const SceneObject* player = sceneManager().player;
+    return player != nullptr && std::abs(placeOf(*player).x() - place.x()) < room;
 }
 
 void putAt(SceneObject& object, const btVector3& place) {

@@ -15,6 +15,8 @@ PhysicsObject* physicsOf(const std::string& object);
 bool placeOf(const std::string& object, btVector3& place);
 /// The same for an object that has a body.
 const btVector3& placeOf(const SceneObject& object);
+/// Whether a gate that falls there would meet the protagonist, which no gate does.
+bool isOverProtagonist(const btVector3& place);
 /// Puts the body of an object there, both as it stands in the world and as it is drawn.
 void putAt(SceneObject& object, const btVector3& place);
 
