@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
 
 /// Makes and draws particles. On a scene object it sprays from the object's body at a steady rate,
 /// and the scene object owns it; with a rate of 0 it serves for bursts. Stands in the objects of

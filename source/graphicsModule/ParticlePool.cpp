@@ -1,7 +1,5 @@
 #include "ParticlePool.h"
 
-#include <algorithm>
-
 namespace {
 
 void accelerate(float* __restrict place, float* __restrict velocity, float gravity, float seconds,
