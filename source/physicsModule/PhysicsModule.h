@@ -81,12 +81,12 @@ private:
 
     // The phases of a step, in order.
     void prepareObjects();
-    void followMove(PhysicsObject& object);
     void stepWorld();
     void collectContacts();
     void updateScene();
     void runScripts();
 
+    void followMove(PhysicsObject& object);
     void flushScripts();
     void removeJointsOf(btRigidBody& body);
 
