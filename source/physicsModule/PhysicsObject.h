@@ -36,8 +36,8 @@ public:
     /// nearer than `step`, and at once for a body that is not static.
     bool moveTowards(float x, float y, float step);
 
-    /// To be called when the body was put somewhere: it is found and drawn there at once, and not on
-    /// its way.
+    /// To be called when the body was put somewhere: it is found and drawn there at once, and not
+    /// on its way.
     void settle();
 
     /// Computes `renderTransform` for this frame by `renderMode`.
