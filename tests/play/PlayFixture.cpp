@@ -8,9 +8,23 @@
 #include "Random.h"
 #include "graphicsModule/GlDevice.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iostream>
 
 namespace fs = std::filesystem;
+
+PlayFixture::PlayFixture() : console(std::cout.rdbuf(printed.rdbuf())) {}
+
+PlayFixture::~PlayFixture() {
+    constexpr std::size_t shown = 2000; // characters
+    std::cout.rdbuf(console);
+    if (HasFailure()) {
+        const std::string all = printed.str();
+        std::cout << "The last that was printed:\n"
+                  << all.substr(all.size() - std::min(all.size(), shown)) << '\n';
+    }
+}
 
 void PlayFixture::SetUp() {
     EngineFixture::SetUp();

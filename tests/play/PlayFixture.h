@@ -6,13 +6,18 @@
 
 #include <cstdlib>
 #include <functional>
+#include <sstream>
 #include <string>
 
 /// The engine among the built assets, in a small window: software drawing is bound by pixels. With
 /// TOLMERE_PICTURES=DIRECTORY the window has its full size and a picture of every second is kept
-/// there; with TOLMERE_SEED=N chance is another one.
+/// there; with TOLMERE_SEED=N chance is another one. What the game prints is shown only if the test
+/// fails, and of it the end.
 class PlayFixture : public EngineFixture {
 protected:
+    PlayFixture();
+    ~PlayFixture() override;
+
     void SetUp() override;
     void prepareDirectory() override;
     std::unique_ptr<platform::Window> makeInnerWindow() override;
@@ -35,4 +40,8 @@ protected:
     }
 
     const char* pictures = std::getenv("TOLMERE_PICTURES");
+
+private:
+    std::ostringstream printed;
+    std::streambuf* const console;
 };
