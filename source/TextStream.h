@@ -92,6 +92,12 @@ inline TextReader& TextReader::readNumber(T& value) {
     while (start != stop && isBlank(*start)) {
         ++start;
     }
+    // Corners of textures, white, full alpha: much of what a scene holds is a single digit.
+    if (stop - start > 1 && *start >= '0' && *start <= '9' && isBlank(start[1])) {
+        cursor = start + 1;
+        value = static_cast<T>(*start - '0');
+        return *this;
+    }
     T result;
     const auto [behind, error] = std::from_chars(start, stop, result);
     bool sound = error == std::errc() && (behind == stop || isBlank(*behind));
