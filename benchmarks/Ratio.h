@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// Runs our work and the bare thing alternately, five rounds in one process, and reports the median
+/// Runs our work and the bare thing alternately, nine rounds in one process, and reports the median
 /// of the rounds' ratios, in processor time, as the counter "ratio", beside the most that we allow
 /// ourselves as "limit". Both callables do the same amount of work a call; `calls` of each make a
 /// round.
