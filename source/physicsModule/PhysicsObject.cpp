@@ -93,6 +93,9 @@ bool PhysicsObject::moveTowards(float x, float y, float step) {
 
 void PhysicsObject::settle() {
     renderTransform = previousTransform = body->getWorldTransform();
+    // Else its box would reach from where it was to here, and keep that size while it stays inside:
+    // it would be checked against all that lies between.
+    body->setInterpolationWorldTransform(body->getWorldTransform());
     updateBox();
 }
 

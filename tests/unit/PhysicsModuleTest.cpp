@@ -90,6 +90,17 @@ TEST_F(PhysicsModuleTest, AWallThatIsPutElsewhereIsMetThereAndNotWhereItWas) {
     }
 }
 
+TEST_F(PhysicsModuleTest, ABodyThatIsPutElsewhereIsNotCheckedAgainstWhatLiesBetween) {
+    SceneObject* crate = addBox(0, 0, 10, 10, 1);
+    crate->physicsObject->body->setGravity(btVector3(0, 0, 0)); // stays where it is put
+    addBox(500, 0, 20, 200, 0);
+    step();
+    crate->physicsObject->body->getWorldTransform().setOrigin(btVector3(1000, 0, 0));
+    crate->physicsObject->settle();
+    step(5);
+    EXPECT_EQ(physicsModule().world->getPairCache()->getNumOverlappingPairs(), 0);
+}
+
 TEST_F(PhysicsModuleTest, ObjectsRunBeforeScriptsAndBothReachWhatIsAddedMeanwhile) {
     std::string order;
     SceneObject* crate = addBox(0, 0, 10, 10, 1);
