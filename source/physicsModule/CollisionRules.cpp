@@ -42,23 +42,27 @@ PhysicsObject* physicsObjectOf(const btCollisionObject& body) {
     return object != nullptr ? object->physicsObject : nullptr;
 }
 
-int findTraits(const btCollisionObject& body) {
-    const SceneObject* owner = sceneObjectOf(body);
-    if (owner == nullptr || owner->physicsObject == nullptr) {
+static int traitsWith(const btCollisionObject& body, const SceneObject& owner) {
+    if (owner.physicsObject == nullptr) {
         return 0;
     }
-    const PhysicsObject& object = *owner->physicsObject;
+    const PhysicsObject& object = *owner.physicsObject;
     const bool noise =
-        owner->contactNoise && object.kind == collisionKind::normal && body.hasContactResponse();
+        owner.contactNoise && object.kind == collisionKind::normal && body.hasContactResponse();
     return (object.kind == collisionKind::loose ? bodyTrait::loose : 0) |
            (object.kind == collisionKind::barrier ? bodyTrait::barrier : 0) |
            (object.wantsContacts ? bodyTrait::wantsContacts : 0) |
            (noise ? bodyTrait::makesNoise : 0);
 }
 
-void storeTraits(btCollisionObject& body) {
+int findTraits(const btCollisionObject& body) {
+    const SceneObject* owner = sceneObjectOf(body);
+    return owner != nullptr ? traitsWith(body, *owner) : 0;
+}
+
+void storeTraits(btCollisionObject& body, const SceneObject& owner) {
     const int before = body.getCollisionFlags();
-    const int now = (before & ~bodyTrait::all) | bodyTrait::noted | findTraits(body);
+    const int now = (before & ~bodyTrait::all) | bodyTrait::noted | traitsWith(body, owner);
     if (now != before) { // most never change, and need not be written back to memory
         body.setCollisionFlags(now);
     }

@@ -48,7 +48,7 @@ constexpr int all = loose | barrier | wantsContacts | makesNoise | noted;
 /// What they are just now; none for bodies that the game did not make.
 int findTraits(const btCollisionObject& body);
 /// Notes the traits on the body, at the start of each step.
-void storeTraits(btCollisionObject& body);
+void storeTraits(btCollisionObject& body, const SceneObject& owner);
 /// Those noted, or found for a body that was added since the step began; other bits may be set too.
 inline int traitsOf(const btCollisionObject& body) {
     const int flags = body.getCollisionFlags();

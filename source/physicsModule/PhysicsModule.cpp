@@ -17,6 +17,9 @@
 #include <BulletDynamics/Dynamics/btRigidBody.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -46,7 +49,26 @@ void prefetch(const SceneObject& object) {
 
 /// Walls and the like have none.
 bool hasWork(const SceneObject& object) {
-    return !object.additions.empty() || object.type != sceneObjectType::plain;
+    return object.additionsWork || object.type != sceneObjectType::plain;
+}
+void prefetchAdditions(const SceneObject& object) {
+    if (hasWork(object)) {
+        __builtin_prefetch(object.additions.data());
+    }
+}
+
+/// Whether they are the same, bit by bit: all at once, where the components compared one by one
+/// would be nine branches.
+bool isSame(const btTransform& a, const btTransform& b) {
+    std::array<std::uint64_t, sizeof(btTransform) / sizeof(std::uint64_t)> left{};
+    auto right = left;
+    std::memcpy(left.data(), static_cast<const void*>(&a), sizeof a);
+    std::memcpy(right.data(), static_cast<const void*>(&b), sizeof b);
+    std::uint64_t difference = 0;
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        difference |= left[i] ^ right[i];
+    }
+    return difference == 0;
 }
 void prefetch(const btPersistentManifold& manifold) {
     for (const int i : {0, 1}) {
@@ -90,8 +112,8 @@ void PhysicsModule::prepareObjects() {
         prefetch(*physicsObjects[std::min(i + prefetchDistance, count - 1)]->body);
         followMove(*object);
         object->contacts.clear();
-        storeTraits(*object->body);
         if (SceneObject* owner = sceneObjectOf(*object->body)) {
+            storeTraits(*object->body, *owner);
             ++owner->age;
         }
     }
@@ -100,7 +122,7 @@ void PhysicsModule::prepareObjects() {
 /// Bullet looks after the bounding boxes of what is awake; the walls that commands move are not.
 void PhysicsModule::followMove(PhysicsObject& object) {
     const btTransform& place = object.body->getWorldTransform();
-    if (!(object.previousTransform == place)) {
+    if (!isSame(object.previousTransform, place)) {
         object.previousTransform = place;
         if (!object.body->isActive()) {
             world->updateSingleAabb(object.body.get());
@@ -137,7 +159,8 @@ void PhysicsModule::updateScene() {
     const std::vector<SceneObject*>& actors = sceneManager().getActors();
     // NOLINTNEXTLINE(modernize-loop-convert)
     for (std::size_t i = 0; i < actors.size(); ++i) {
-        prefetch(*actors[std::min(i + prefetchDistance, actors.size() - 1)]);
+        prefetch(*actors[std::min(i + 2 * prefetchDistance, actors.size() - 1)]);
+        prefetchAdditions(*actors[std::min(i + prefetchDistance, actors.size() - 1)]);
         if (hasWork(*actors[i])) {
             actors[i]->update();
         }

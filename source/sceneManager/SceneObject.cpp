@@ -114,6 +114,7 @@ void SceneObject::addAddition(So_Addition* addition) {
         physicsObject->wantsContacts = true;
     }
     additions.push_back(addition);
+    additionsWork = additionsWork || addition->type != AdditionType::objectName;
     forgetName(*addition);
 }
 

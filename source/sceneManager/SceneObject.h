@@ -83,6 +83,7 @@ public:
     const std::uint32_t seed;
     std::uint32_t age = 0;               ///< Steps in the physics world.
     bool contactNoise = true;            ///< Whether collisions thud and roll.
+    bool additionsWork = false;          ///< Whether it ever had one that is more than a name.
     int waterCount = 0;                  ///< Bodies of water that hold the object.
     std::vector<So_Addition*> additions; ///< Owned.
 
