@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstddef>
+#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -23,6 +25,17 @@ struct PixelBox {
     int x, y, width, height;
     bool operator==(const PixelBox&) const = default;
 };
+
+/// Four floats that the processor multiplies at once.
+using Rgba [[gnu::vector_size(4 * sizeof(float))]] = float;
+
+void storeTinted(PaintVertex& vertex, const float* colour, const Rgba& factors) {
+    Rgba tinted;
+    std::memcpy(&tinted, colour, sizeof tinted);
+    tinted *= factors;
+    std::memcpy(reinterpret_cast<char*>(&vertex) + offsetof(PaintVertex, r), &tinted,
+                sizeof tinted);
+}
 
 PaintVertex place(const PaintTransform& t, PaintVertex vertex) {
     const float x = vertex.x;
@@ -291,6 +304,7 @@ std::uint32_t Painter::append(const ShapeArrays& shape, const Tint& tint) {
     const float* position = shape.positions;
     const float* texcoord = shape.texcoords;
     const float* colour = shape.colours;
+    const Rgba factors{tint.r, tint.g, tint.b, 1.0F};
     PaintVertex* out = vertices.data() + vertexCount;
     for (std::size_t i = 0; i < shape.count; ++i) {
         out->x = t.m00 * position[0] + t.m01 * position[1] + t.x;
@@ -298,14 +312,10 @@ std::uint32_t Painter::append(const ShapeArrays& shape, const Tint& tint) {
         out->z = t.z;
         out->u = texcoord[0];
         out->v = texcoord[1];
-        out->r = colour[0] * tint.r;
-        out->g = colour[1] * tint.g;
-        out->b = colour[2] * tint.b;
-        out->a = colour[3];
+        storeTinted(*out++, colour, factors);
         position += 2;
         texcoord += 2;
         colour += 4;
-        ++out;
     }
     return static_cast<std::uint32_t>(std::exchange(vertexCount, vertexCount + shape.count));
 }
@@ -352,21 +362,17 @@ void Painter::appendRun(std::uint32_t base, std::size_t count) {
 
 namespace {
 
-std::unique_ptr<Painter>& processPainter() {
-    static std::unique_ptr<Painter> instance;
-    return instance;
-}
+std::unique_ptr<Painter> processPainter;
 
 } // namespace
 
 Painter& painter() {
-    std::unique_ptr<Painter>& instance = processPainter();
-    if (instance == nullptr) {
-        instance = std::make_unique<Painter>(std::make_unique<GlDevice>());
+    if (processPainter == nullptr) {
+        processPainter = std::make_unique<Painter>(std::make_unique<GlDevice>());
     }
-    return *instance;
+    return *processPainter;
 }
 
 void setPainter(std::unique_ptr<Painter> replacement) {
-    processPainter() = std::move(replacement);
+    processPainter = std::move(replacement);
 }
