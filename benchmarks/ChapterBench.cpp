@@ -41,7 +41,7 @@ static void chapterStep(benchmark::State& state) {
             bare.add(*joint);
         }
         compareInTurn(
-            state, 120, 1.3, [&bare](int) { bare.follow(5.0F); }, [] { physicsModule().update(); },
+            state, 300, 1.3, [&bare](int) { bare.follow(5.0F); }, [] { physicsModule().update(); },
             [&bare] { bare.step(); });
     }
     physicsModule().removeAllScripts();
