@@ -85,6 +85,7 @@ void saveGameAs(const std::string& name) {
     player->physicsObject->body->setLinearVelocity({0.0F, 0.0F, 0.0F});
     const HandsPause pause(player);
     storeFile(packScene(), pathOf(name));
+    sceneManager().forgetStoredScene(pathOf(name)); // two saves of a second have one name
     setLatestSave(name);
 }
 

@@ -61,6 +61,8 @@ public:
     /// Keeps a file's text in `storedScenes`; an entry that is there stays. Always true.
     /// @throws std::string if the file cannot be read or holds no packed text
     bool preloadScene(const std::string& path);
+    /// Drops a file's text from `storedScenes`, as what the file holds is another one now.
+    void forgetStoredScene(const std::string& path) { storedScenes.erase(path); }
     /// Puts ambient light and music in place and reads the stored text from its beginning.
     SceneBundle parseStoredScene(const std::string& path);
 

@@ -92,6 +92,15 @@ TEST_F(SaveGame, ADeathLeadsBackToTheLatestSave) {
     EXPECT_EQ(readDeaths(), 2);
 }
 
+TEST_F(SaveGame, TheSecondOfTwoSavesOfTheSameNameIsTheOneThatIsLoaded) {
+    for (const float speed : {123.0F, 124.0F}) {
+        player().statistics.speed = speed;
+        saveGameAs("save.vkl");
+        loadLastSave();
+        EXPECT_EQ(player().statistics.speed, speed);
+    }
+}
+
 TEST_F(SaveGame, ACheckpointFlickersAndSavesAtTheThirdFlash) {
     run("SAVEGAME");
     step(96); // each wait begins in the step in which the one before it ends
