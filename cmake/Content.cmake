@@ -10,14 +10,26 @@ file(GLOB content_overrides CONFIGURE_DEPENDS RELATIVE ${content_source}/overrid
     ${content_source}/overrides/data/* ${content_source}/overrides/sound/*
     ${content_source}/overrides/music/* ${content_source}/overrides/maps/*)
 
+# The tools for pictures and sounds are the same in every build. One that is made beside another
+# copies what that has made, which is built before it.
+set(TOLMERE_ASSETS_FROM "" CACHE PATH "Run directory that pictures, sounds and music are copied from")
+if(TOLMERE_ASSETS_FROM AND NOT IS_DIRECTORY ${TOLMERE_ASSETS_FROM})
+    message(FATAL_ERROR "There are no assets in ${TOLMERE_ASSETS_FROM}: build what they come from first.")
+endif()
+
 # add_content(FILE COMMAND... DEPENDS...): the rule for one file of the run directory, named as
 # there ("data/stone.tga"). With an override of that name the file is copied instead.
 function(add_content file)
     set(built ${content_game}/${file})
+    set(ready "")
     if(file IN_LIST content_overrides)
-        set(better ${content_source}/overrides/${file})
-        add_custom_command(OUTPUT ${built} DEPENDS ${better}
-            COMMAND ${CMAKE_COMMAND} -E copy ${better} ${built} VERBATIM)
+        set(ready ${content_source}/overrides/${file})
+    elseif(TOLMERE_ASSETS_FROM AND file MATCHES "^(data|sound|music)/")
+        set(ready ${TOLMERE_ASSETS_FROM}/${file})
+    endif()
+    if(ready)
+        add_custom_command(OUTPUT ${built} DEPENDS ${ready}
+            COMMAND ${CMAKE_COMMAND} -E copy ${ready} ${built} VERBATIM)
     else()
         cmake_parse_arguments(PARSE_ARGV 1 rule "" "" "COMMAND;DEPENDS")
         add_custom_command(OUTPUT ${built} DEPENDS ${rule_DEPENDS}

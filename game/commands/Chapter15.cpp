@@ -16,7 +16,7 @@ ScriptCallback thank(int line) {
     return [line](SceneObject*, So_Addition*) { ringAndShow(text(thanksLine) + " " + text(line)); };
 }
 
-void close(SceneObject*, So_Addition*) {
+void showWayOut(SceneObject*, So_Addition*) {
     ringAndShow(text(378));
 }
 
@@ -32,7 +32,7 @@ std::span<const NamedCommand> chapter15Commands() {
         NamedCommand{"CH15BRAMA1",
                      verb::moveLoopTo("BRAMA1", "BRAMADEST1", 5.2F, verb::script("CH15BRAMA2"))},
         NamedCommand{"CH15BRAMA2", verb::moveLoopTo("BRAMA1", "BRAMADEST2", 1.2F)},
-        NamedCommand{"CH15TE1", close},
+        NamedCommand{"CH15TE1", showWayOut},
         NamedCommand{
             "CH15TE2",
             verb::all({thank(171), verb::script("LOCK DELAY 150 SECRET15TALK REMOVESCRIPT")})},
