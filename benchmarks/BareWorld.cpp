@@ -57,8 +57,8 @@ void BareWorld::step() {
 
 void BareWorld::follow(float tolerance) {
     for (const auto& [original, copy] : bodies) {
-        if (!sceneManager().contains(original)) {
-            continue;
+        if (!sceneManager().contains(original) || original->physicsObject == nullptr) {
+            continue; // gone, and another may be in its place
         }
         const btRigidBody& body = *original->physicsObject->body;
         if (distance(*copy, body) > tolerance) {

@@ -25,6 +25,18 @@ struct Seconds {
     double bare = 0.0;
 };
 
+/// A round: both sides by turns.
+Seconds runTurns(int calls, int callsNow, const std::function<void(int)>& prepare,
+                 const std::function<void()>& ours, const std::function<void()>& bare) {
+    Seconds seconds;
+    for (int turn = 0; turn * callsNow < calls; ++turn) {
+        prepare(turn);
+        seconds.ours += secondsOf(callsNow, ours);
+        seconds.bare += secondsOf(callsNow, bare);
+    }
+    return seconds;
+}
+
 /// Runs the rounds and reports their medians.
 void runRounds(benchmark::State& state, int calls, double limit,
                const std::function<Seconds()>& round) {
@@ -55,27 +67,16 @@ void compare(benchmark::State& state, int calls, double limit, const std::functi
     bare();
     const int callsNow = std::max(calls / turnsInRound, 1);
     runRounds(state, calls, limit, [&] {
-        Seconds seconds;
-        for (int done = 0; done < calls; done += callsNow) {
-            seconds.ours += secondsOf(callsNow, ours);
-            seconds.bare += secondsOf(callsNow, bare);
-        }
-        return seconds;
+        return runTurns(
+            calls, callsNow, [](int /*turn*/) {}, ours, bare);
     });
 }
 
 void compareInTurn(benchmark::State& state, int calls, double limit,
                    const std::function<void(int)>& prepare, const std::function<void()>& ours,
                    const std::function<void()>& bare) {
-    runRounds(state, calls, limit, [&] {
-        Seconds seconds;
-        for (int turn = 0; turn < calls / callsInTurn; ++turn) {
-            prepare(turn);
-            seconds.ours += secondsOf(callsInTurn, ours);
-            seconds.bare += secondsOf(callsInTurn, bare);
-        }
-        return seconds;
-    });
+    runRounds(state, calls, limit,
+              [&] { return runTurns(calls, callsInTurn, prepare, ours, bare); });
 }
 
 void compareBeyond(benchmark::State& state, int calls, double limit,

@@ -70,6 +70,7 @@ bool isSame(const btTransform& a, const btTransform& b) {
     }
     return difference == 0;
 }
+
 void prefetch(const btPersistentManifold& manifold) {
     for (const int i : {0, 1}) {
         const btManifoldPoint& point = manifold.getContactPoint(i);
@@ -78,6 +79,7 @@ void prefetch(const btPersistentManifold& manifold) {
     }
     __builtin_prefetch(&manifold.m_companionIdA); // beside the bodies and the count
 }
+
 void prefetchSpeeds(const btPersistentManifold& manifold) {
     for (const btCollisionObject* body : {manifold.getBody0(), manifold.getBody1()}) {
         __builtin_prefetch(&static_cast<const btRigidBody*>(body)->getLinearVelocity());
