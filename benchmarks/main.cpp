@@ -2,10 +2,18 @@
 
 #include <benchmark/benchmark.h>
 
+#include <iostream>
+#include <string>
+
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    const Engine engine;
-    benchmark::RunSpecifiedBenchmarks();
+    try {
+        const Engine engine;
+        benchmark::RunSpecifiedBenchmarks();
+    } catch (const std::string& failure) {
+        std::cerr << failure << '\n';
+        return 1;
+    }
     benchmark::Shutdown();
     return 0;
 }

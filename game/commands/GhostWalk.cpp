@@ -91,7 +91,7 @@ ScriptCallback putGhost(const std::string& place, const std::string& name,
         if (!placeOf(place, origin)) {
             return;
         }
-        Player& ghost = makeGhost();
+        Player& ghost = makeGuide();
         putAt(ghost, origin);
         ghost.addAddition(new ObjectNameAdd(name));
         ghost.addAddition(parseScript(chain));
@@ -106,7 +106,7 @@ ScriptCallback haunt(std::vector<Speech> lines, const std::string& after) {
         if (player == nullptr || sceneManager().getSceneObject("GHOST") != nullptr) {
             return;
         }
-        Player& ghost = makeGhost();
+        Player& ghost = makeGuide();
         putAt(ghost,
               player->getWorldTransform().getOrigin() + btVector3(hauntAhead, hauntOver, 0.0F));
         ghost.addAddition(parseScript("NAME GHOST"));

@@ -35,7 +35,7 @@ void spawnMonster(const btVector3& place) {
     }
 }
 
-Player& makeGhost() {
+Player& makeGuide() {
     Player& ghost = *makeGhost(0.0F, 0.0F);
     ghost.physicsObject->kind = collisionKind::loose;
     return ghost;

@@ -20,4 +20,4 @@ void spawnMonster(const btVector3& place);
 
 /// A ghost as it leads the user through a level: hands can seize it, and loose things do not touch
 /// it. It belongs to the caller until it is added to the scene.
-Player& makeGhost();
+Player& makeGuide();

@@ -19,7 +19,7 @@ protected:
         for (const char* name : {"SPAWN1", "SPAWN2", "SPAWN3", "DEST1", "DEST2"}) {
             addNamed(name, 0, 0);
         }
-        sceneManager().player = &makeGhost(); // anybody who is alive and no monster
+        sceneManager().player = &makeGuide(); // anybody who is alive and no monster
         sceneManager().addSceneObject(sceneManager().player);
     }
 

@@ -30,7 +30,7 @@ protected:
 
     /// One that fights and has nowhere to fly to.
     static Player* addFighter(float x, float y) {
-        Player& ghost = makeGhost();
+        Player& ghost = makeGuide();
         putAt(ghost, {x, y, 0});
         ghost.addAddition(parseScript("CH13BATTLE"));
         sceneManager().addSceneObject(&ghost);
